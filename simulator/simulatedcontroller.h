@@ -1,0 +1,106 @@
+#ifndef SIMULATEDCONTROLLER_H
+#define SIMULATEDCONTROLLER_H
+
+#include <backendversions.h>
+#include <iomanager.h>
+
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+// A tracking controller in software: an IOManager that answers from a table
+// of controller parameters (path -> value text), changes that table the way a
+// real controller would, and records every exchange.
+//
+// Tests, the demo host, the benchmarks and the fuzzers all use it; it is the
+// only stand-in for the host and the controller that the project has.
+class SimulatedController : public QObject, public IOManager
+{
+    Q_OBJECT
+
+public:
+    struct LogEntry
+    {
+        enum Kind { Command, Query, Setting, Message, Timeout };
+        Kind kind = Command;
+        QString operation; // "sendCommand", "getString", ..., "sendMessage"
+        QString text;      // the formatted command, or the message text
+        QString reply;     // reply text as written into the buffer, or the typed value
+        int result = 0;    // what the operation returned
+        QString receiver;  // messages only
+        QString sender;    // messages only
+        int level = 0;     // messages only
+    };
+
+    explicit SimulatedController(QObject *parent = nullptr);
+    ~SimulatedController() override;
+
+    // Scenarios. The built-in ones live in the resources as ":/scenarios/NAME.scn".
+    static QString defaultScenario();
+    static QStringList builtInScenarios();
+    // Replaces the parameter table and the versions with those of the file.
+    // Every bad line is reported in errors as "FILE:LINE: reason"; the good
+    // lines are still taken. Returns false when the file could not be read
+    // or had a bad line.
+    bool loadScenario(const QString &fileName, QStringList *errors = nullptr);
+    bool loadScenarioText(const QString &text, const QString &name, QStringList *errors = nullptr);
+
+    BackendVersions &backendVersions();
+
+    // Direct access to the parameter table (no log, no injected failures).
+    QString value(const QString &path) const;
+    bool contains(const QString &path) const;
+    void setValue(const QString &path, const QString &value);
+    void removeValue(const QString &path);
+    QMap<QString, QString> parameters() const;
+
+    // What was exchanged, in order.
+    const QList<LogEntry> &log() const;
+    QStringList commands() const; // texts of every command and query, in order
+    QStringList messages() const; // texts of every sendMessage, in order
+    QStringList reports() const;  // texts sent to the message log ("standard")
+    void clearLog();
+
+    // Fault injection. A pattern is an exact command text, or a prefix when it
+    // ends with '*'. times < 0 means for every matching command.
+    void failCommand(const QString &pattern, int result = 1, int times = -1);
+    // The reply is written as given (cut to the reply buffer), without
+    // changing the table; for getInt/getDouble/getBool it is parsed as the
+    // controller's reply would be. unterminated fills the whole buffer
+    // without a terminating zero.
+    void replaceReply(const QString &pattern, const QByteArray &reply, int times = -1,
+                      bool unterminated = false);
+    void setLatency(int milliseconds);
+    void clearInjections();
+
+    // The target search progresses with time. Tests switch to a manual clock
+    // and advance it; the demo uses the wall clock.
+    void setManualClock(bool manual);
+    void advanceClock(int milliseconds);
+
+    // IOManager
+    void setReplyTimeout(int reserved1, int milliseconds, int reserved2) override;
+    int sendCommand(char *reply, const char *format, ...) override IOMANAGER_PRINTF(3, 4);
+    int getString(char *reply, const char *format, ...) override IOMANAGER_PRINTF(3, 4);
+    int getInt(qint32 *value, const char *format, ...) override IOMANAGER_PRINTF(3, 4);
+    int getDouble(double *value, const char *format, ...) override IOMANAGER_PRINTF(3, 4);
+    int getBool(bool *value, const char *format, ...) override IOMANAGER_PRINTF(3, 4);
+    int setParameter(const char *format, ...) override IOMANAGER_PRINTF(2, 3);
+    void sendMessage(const char *receiver, const char *sender, int level,
+                     const char *text) override;
+    void registerReceiver(const char *name, MessageReceiver *receiver) override;
+    void unregisterReceiver(const char *name, MessageReceiver *receiver) override;
+
+signals:
+    void logged(const SimulatedController::LogEntry &entry);
+
+private:
+    class Private;
+    Private *d;
+};
+
+Q_DECLARE_METATYPE(SimulatedController::LogEntry)
+
+#endif // SIMULATEDCONTROLLER_H
