@@ -46,8 +46,8 @@ public:
 
     // Message service: to the host's message log (receiver "standard") or to
     // other modules. Texts are zero-terminated Latin-1.
-    virtual void sendMessage(const char *receiver, const char *sender, int level,
-                             const char *text) = 0;
+    virtual void sendMessage(const char *receiver, const char *sender, int level, const char *text)
+        = 0;
     virtual void registerReceiver(const char *name, MessageReceiver *receiver) = 0;
     virtual void unregisterReceiver(const char *name, MessageReceiver *receiver) = 0;
 };

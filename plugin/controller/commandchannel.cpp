@@ -2,7 +2,8 @@
 
 #include <iomanager.h>
 
-namespace {
+namespace
+{
 
 // A reply buffer that is terminated whatever the channel wrote into it.
 class ReplyBuffer
@@ -36,8 +37,8 @@ CommandChannel::CommandChannel(IOManager *ioManager, const BackendVersions *vers
 int CommandChannel::getString(const QString &path, QString *value) const
 {
     ReplyBuffer reply;
-    const int result = m_io ? m_io->getString(reply.data(), "%s", path.toLatin1().constData())
-                            : Failed;
+    const int result
+        = m_io ? m_io->getString(reply.data(), "%s", path.toLatin1().constData()) : Failed;
     *value = result == 0 ? reply.text() : QString();
     return result;
 }
@@ -53,8 +54,7 @@ int CommandChannel::getInt(const QString &path, int *value) const
 int CommandChannel::getDouble(const QString &path, double *value) const
 {
     double reply = 0.0;
-    const int result = m_io ? m_io->getDouble(&reply, "%s", path.toLatin1().constData())
-                            : Failed;
+    const int result = m_io ? m_io->getDouble(&reply, "%s", path.toLatin1().constData()) : Failed;
     *value = result == 0 ? reply : 0.0;
     return result;
 }
@@ -75,8 +75,8 @@ int CommandChannel::setParameter(const QString &command) const
 int CommandChannel::sendCommand(const QString &command, QString *reply) const
 {
     ReplyBuffer buffer;
-    const int result = m_io ? m_io->sendCommand(buffer.data(), "%s", command.toLatin1().constData())
-                            : Failed;
+    const int result
+        = m_io ? m_io->sendCommand(buffer.data(), "%s", command.toLatin1().constData()) : Failed;
     if (reply)
         *reply = result == 0 ? buffer.text() : QString();
     return result;
@@ -102,8 +102,8 @@ void CommandChannel::report(const QString &text) const
     sendMessage(ReportReceiver, ReportSender, text);
 }
 
-void CommandChannel::sendMessage(const char *receiver, const char *sender,
-                                 const QString &text) const
+void CommandChannel::sendMessage(
+    const char *receiver, const char *sender, const QString &text) const
 {
     if (m_io)
         m_io->sendMessage(receiver, sender, ReportLevel, text.toLatin1().constData());

@@ -9,7 +9,10 @@
 class VersionGate
 {
 public:
-    explicit VersionGate(const BackendVersions *versions) : m_versions(versions) {}
+    explicit VersionGate(const BackendVersions *versions)
+        : m_versions(versions)
+    {
+    }
 
     // True when the controller software is at least major.minor. A patch
     // number of -1 marks an unreleased build of major.minor and passes; other

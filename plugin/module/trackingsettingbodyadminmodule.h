@@ -1,0 +1,49 @@
+#ifndef TRACKINGSETTINGBODYADMINMODULE_H
+#define TRACKINGSETTINGBODYADMINMODULE_H
+
+#include <menuentry.h>
+#include <moduleinterface.h>
+
+#include <QList>
+#include <QObject>
+
+class IOManager;
+class QWidget;
+struct BackendVersions;
+
+// The object the host loads: contributes the "&Tracking" menu with the single
+// marker settings and the body administration, and owns both dialogs.
+class TrackingSettingBodyAdminModule : public QObject, public ModuleInterface
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "zem.Velora2.TrackingSettingsModule")
+    Q_INTERFACES(ModuleInterface)
+
+public:
+    TrackingSettingBodyAdminModule();
+    ~TrackingSettingBodyAdminModule() override;
+
+    void shutdown() override;
+    void cleanup() override;
+    QString moduleName() const override;
+    QString moduleVersion() const override;
+    QList<MenuEntry *> menuEntries() override;
+    void setModuleProperty(const QString &name, const QVariant &value) override;
+
+    // The services the host handed over, as stored.
+    IOManager *commandManager() const { return ioManager; }
+    QWidget *parentWidget() const { return moduleParent; }
+    BackendVersions *versions() const { return backendVersions; }
+    bool isObserverMode() const { return observerMode; }
+
+private:
+    QWidget *moduleParent = nullptr;
+    QList<MenuEntry *> entries;
+    MenuEntry singleMarkersEntry;
+    MenuEntry bodyAdministrationEntry;
+    IOManager *ioManager = nullptr;
+    BackendVersions *backendVersions = nullptr;
+    bool observerMode = false;
+};
+
+#endif // TRACKINGSETTINGBODYADMINMODULE_H

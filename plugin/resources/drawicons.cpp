@@ -1,0 +1,189 @@
+// Draws the module's icons. Run once after changing a picture:
+//   cmake --build build --target drawicons && build/plugin/drawicons plugin/resources
+#include <QDir>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QtMath>
+
+#include <cstdio>
+#include <functional>
+
+namespace
+{
+
+constexpr int IconSize = 32;
+
+QImage canvas(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+void statusLight(QPainter &p, const QColor &color)
+{
+    QRadialGradient gradient(QPointF(12, 11), 14);
+    gradient.setColorAt(0, color.lighter(170));
+    gradient.setColorAt(0.6, color);
+    gradient.setColorAt(1, color.darker(140));
+    p.setPen(QPen(color.darker(180), 1.5));
+    p.setBrush(gradient);
+    p.drawEllipse(QRectF(4, 4, 24, 24));
+}
+
+void lock(QPainter &p)
+{
+    p.setPen(QPen(QColor(90, 90, 100), 3.5, Qt::SolidLine, Qt::RoundCap));
+    p.setBrush(Qt::NoBrush);
+    p.drawArc(QRectF(9, 3, 14, 18), 0, 180 * 16);
+    p.drawLine(QPointF(9, 12), QPointF(9, 15));
+    p.drawLine(QPointF(23, 12), QPointF(23, 15));
+    QLinearGradient body(0, 14, 0, 30);
+    body.setColorAt(0, QColor(250, 205, 70));
+    body.setColorAt(1, QColor(205, 150, 20));
+    p.setPen(QPen(QColor(140, 100, 10), 1.5));
+    p.setBrush(body);
+    p.drawRoundedRect(QRectF(5, 14, 22, 16), 3, 3);
+    p.setBrush(QColor(90, 60, 0));
+    p.setPen(Qt::NoPen);
+    p.drawEllipse(QRectF(14, 18, 4, 4));
+    p.drawRect(QRectF(15, 21, 2, 5));
+}
+
+void reset(QPainter &p) // "48.png": back to stored geometry
+{
+    const QColor blue(30, 110, 200);
+    p.setPen(QPen(blue, 4, Qt::SolidLine, Qt::RoundCap));
+    p.setBrush(Qt::NoBrush);
+    p.drawArc(QRectF(6, 6, 20, 20), 100 * 16, 290 * 16);
+    QPainterPath head;
+    head.moveTo(3, 6);
+    head.lineTo(14, 2);
+    head.lineTo(12, 13);
+    head.closeSubpath();
+    p.setPen(Qt::NoPen);
+    p.setBrush(blue);
+    p.drawPath(head);
+}
+
+void deletion(QPainter &p) // "118.png": delete geometry
+{
+    const QColor red(200, 40, 40);
+    p.setPen(QPen(QColor(110, 110, 120), 1.5));
+    p.setBrush(QColor(225, 225, 230));
+    p.drawRect(QRectF(8, 9, 16, 20));
+    p.drawRect(QRectF(6, 6, 20, 3));
+    p.drawRect(QRectF(13, 3, 6, 3));
+    p.setPen(QPen(red, 3.5, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(QPointF(11, 13), QPointF(21, 25));
+    p.drawLine(QPointF(21, 13), QPointF(11, 25));
+}
+
+void search(QPainter &p) // "19.png"
+{
+    p.setPen(QPen(QColor(60, 60, 70), 4, Qt::SolidLine, Qt::RoundCap));
+    p.drawLine(QPointF(19, 19), QPointF(28, 28));
+    p.setPen(QPen(QColor(60, 60, 70), 2.5));
+    p.setBrush(QColor(190, 225, 250));
+    p.drawEllipse(QRectF(4, 4, 17, 17));
+}
+
+void target(QPainter &p) // "24.png"
+{
+    p.setBrush(Qt::NoBrush);
+    p.setPen(QPen(QColor(200, 40, 40), 2.5));
+    p.drawEllipse(QRectF(4, 4, 24, 24));
+    p.drawEllipse(QRectF(10, 10, 12, 12));
+    p.setPen(QPen(QColor(60, 60, 70), 1.5));
+    p.drawLine(QPointF(16, 1), QPointF(16, 31));
+    p.drawLine(QPointF(1, 16), QPointF(31, 16));
+}
+
+void table(QPainter &p, const QRect &area, const QStringList &header,
+    const QList<QStringList> &rows, const QList<bool> &gray)
+{
+    QFont font = p.font();
+    font.setPixelSize(12);
+    p.setFont(font);
+    const int columns = header.size();
+    const int rowHeight = area.height() / (rows.size() + 1);
+    const int columnWidth = area.width() / columns;
+    p.fillRect(area, Qt::white);
+    p.fillRect(QRect(area.topLeft(), QSize(area.width(), rowHeight)), QColor(230, 232, 236));
+    for (int r = 0; r < rows.size(); ++r) {
+        if (gray.value(r))
+            p.fillRect(
+                QRect(area.left(), area.top() + (r + 1) * rowHeight, area.width(), rowHeight),
+                QColor(215, 215, 215));
+    }
+    p.setPen(QColor(160, 165, 175));
+    for (int r = 0; r <= rows.size() + 1; ++r)
+        p.drawLine(
+            area.left(), area.top() + r * rowHeight, area.right(), area.top() + r * rowHeight);
+    for (int c = 0; c <= columns; ++c)
+        p.drawLine(area.left() + c * columnWidth, area.top(), area.left() + c * columnWidth,
+            area.top() + (rows.size() + 1) * rowHeight);
+    p.setPen(Qt::black);
+    for (int c = 0; c < columns; ++c) {
+        const QRect cell(area.left() + c * columnWidth, area.top(), columnWidth, rowHeight);
+        p.drawText(cell, Qt::AlignCenter, header.at(c));
+        for (int r = 0; r < rows.size(); ++r)
+            p.drawText(
+                cell.translated(0, (r + 1) * rowHeight), Qt::AlignCenter, rows.at(r).value(c));
+    }
+}
+
+void bodyTable(QPainter &p)
+{
+    table(p, QRect(0, 0, 419, 119), { "ID", "Name", "Angle X", "Angle Y", "Angle Z" },
+        { { "1", "Pointer", "0.00", "12.50", "0.00" }, { "2", "Glasses", "-5.00", "0.00", "3.25" },
+            { "3", "", "0.0", "0.0", "0.0" } },
+        { false, false, true });
+}
+
+void dataDisplay(QPainter &p)
+{
+    table(p, QRect(0, 0, 419, 89), { "Body", "X [mm]", "Y [mm]", "Z [mm]", "Angles [deg]" },
+        { { "1", "102.31", "-45.08", "1210.77", "0.00 12.50 0.00" },
+            { "2", "-310.62", "12.94", "998.40", "-5.00 0.00 3.25" } },
+        {});
+}
+
+bool save(const QDir &dir, const QString &name, int width, int height,
+    const std::function<void(QPainter &)> &draw)
+{
+    QImage image = canvas(width, height);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    draw(painter);
+    painter.end();
+    const QString path = dir.filePath(name);
+    if (!image.save(path, "PNG")) {
+        std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QGuiApplication app(argc, argv);
+    const QDir dir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("."));
+    bool ok = true;
+    ok &= save(dir, "green.png", IconSize, IconSize,
+        [](QPainter &p) { statusLight(p, QColor(40, 170, 60)); });
+    ok &= save(dir, "red.png", IconSize, IconSize,
+        [](QPainter &p) { statusLight(p, QColor(210, 40, 40)); });
+    ok &= save(dir, "lock.png", IconSize, IconSize, lock);
+    ok &= save(dir, "48.png", IconSize, IconSize, reset);
+    ok &= save(dir, "118.png", IconSize, IconSize, deletion);
+    ok &= save(dir, "19.png", IconSize, IconSize, search);
+    ok &= save(dir, "24.png", IconSize, IconSize, target);
+    ok &= save(dir, "bodytable.png", 420, 120, bodyTable);
+    ok &= save(dir, "datadisplay.png", 420, 90, dataDisplay);
+    return ok ? 0 : 1;
+}

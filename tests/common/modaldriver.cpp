@@ -1,0 +1,94 @@
+#include "modaldriver.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QMessageBox>
+
+ModalDriver::ModalDriver(QObject *parent)
+    : QObject(parent)
+{
+    m_timer.setInterval(10);
+    connect(&m_timer, &QTimer::timeout, this, &ModalDriver::poll);
+}
+
+ModalDriver::~ModalDriver() = default;
+
+void ModalDriver::answer(Action action)
+{
+    m_steps.append(std::move(action));
+    m_timer.start();
+}
+
+void ModalDriver::pressButton(int standardButton)
+{
+    answer([standardButton](QWidget *modal) {
+        auto *box = qobject_cast<QMessageBox *>(modal);
+        QAbstractButton *button
+            = box ? box->button(QMessageBox::StandardButton(standardButton)) : nullptr;
+        if (button)
+            button->click();
+        else if (auto *dialog = qobject_cast<QDialog *>(modal))
+            dialog->reject();
+        else
+            modal->close();
+    });
+}
+
+void ModalDriver::reject()
+{
+    answer([](QWidget *modal) {
+        if (auto *dialog = qobject_cast<QDialog *>(modal))
+            dialog->reject();
+        else
+            modal->close();
+    });
+}
+
+void ModalDriver::poll()
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    // Wait until the previous answer has closed its widget.
+    if (!modal || modal == m_lastHandled || !modal->isVisible())
+        return;
+    if (m_steps.isEmpty()) {
+        m_timer.stop();
+        return;
+    }
+    Seen seen;
+    seen.className = QString::fromLatin1(modal->metaObject()->className());
+    seen.title = modal->windowTitle();
+    if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+        seen.text = box->text();
+        seen.informativeText = box->informativeText();
+    }
+    m_seen.append(seen);
+    m_lastHandled = modal;
+    const Action action = m_steps.takeFirst();
+    action(modal);
+    if (m_steps.isEmpty())
+        m_timer.stop();
+}
+
+void ModalDriver::closeAllModals()
+{
+    while (QWidget *modal = QApplication::activeModalWidget()) {
+        if (auto *dialog = qobject_cast<QDialog *>(modal))
+            dialog->reject();
+        else
+            modal->close();
+        QApplication::processEvents();
+        if (QApplication::activeModalWidget() == modal)
+            break;
+    }
+}
+
+QStringList ModalDriver::topLevelWidgetNames()
+{
+    QStringList names;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (const QWidget *widget : widgets)
+        names << QString::fromLatin1(widget->metaObject()->className()) + QLatin1Char('/')
+                + widget->objectName();
+    return names;
+}

@@ -1,0 +1,166 @@
+#include "bodyadminmessagereceiver.h"
+#include "commandchannel.h"
+#include "handoverrequest.h"
+
+#include <simulatedcontroller.h>
+
+#include <QtTest>
+
+class TestMessages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void matching_data();
+    void matching();
+    void subscription();
+    void requests_data();
+    void requests();
+};
+
+void TestMessages::matching_data()
+{
+    QTest::addColumn<QByteArray>("sender");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("signal"); // empty: ignored
+
+    QTest::newRow("reopen") << QByteArray("BodyCalModule") << QByteArray("reopen")
+                            << "dialogReopen";
+    QTest::newRow("reopen wins over the configuration test")
+        << QByteArray("ConfigurationModule") << QByteArray("reopen") << "dialogReopen";
+    QTest::newRow("reopen with a trailing blank") << QByteArray("X") << QByteArray("reopen ") << "";
+    QTest::newRow("Reopen") << QByteArray("X") << QByteArray("Reopen") << "";
+    QTest::newRow("calibration announced")
+        << QByteArray("BodyCalModule") << QByteArray("bodycalibration available")
+        << "BodyCalAvailable";
+    QTest::newRow("calibration announced with more text")
+        << QByteArray("any") << QByteArray("bodycalibration available v2") << "BodyCalAvailable";
+    QTest::newRow("capital B is not the announcement")
+        << QByteArray("BodyCalModule") << QByteArray("Bodycalibration available") << "";
+    QTest::newRow("adjustment announced")
+        << QByteArray("BodyAdjustmentModule") << QByteArray("bodyadjustment available")
+        << "BodyAdjustmentAvailable";
+    QTest::newRow("adjustment, trailing text")
+        << QByteArray("") << QByteArray("bodyadjustment available.") << "BodyAdjustmentAvailable";
+    QTest::newRow("configuration changed")
+        << QByteArray("ConfigurationModule") << QByteArray("ActiveConfigurationChanged")
+        << "activeConfigurationChanged";
+    QTest::newRow("configuration changed from another sender")
+        << QByteArray("BodyCalModule") << QByteArray("ActiveConfigurationChanged") << "";
+    QTest::newRow("configuration changed with more text")
+        << QByteArray("ConfigurationModule") << QByteArray("ActiveConfigurationChanged!") << "";
+    QTest::newRow("unknown text") << QByteArray("X") << QByteArray("hello") << "";
+    QTest::newRow("missing text") << QByteArray("X") << QByteArray() << "";
+}
+
+void TestMessages::matching()
+{
+    QFETCH(QByteArray, sender);
+    QFETCH(QByteArray, text);
+    QFETCH(QString, signal);
+
+    BodyAdminMessageReceiver receiver;
+    QSignalSpy reopen(&receiver, &BodyAdminMessageReceiver::dialogReopen);
+    QSignalSpy calibration(&receiver, &BodyAdminMessageReceiver::BodyCalAvailable);
+    QSignalSpy adjustment(&receiver, &BodyAdminMessageReceiver::BodyAdjustmentAvailable);
+    QSignalSpy configuration(&receiver, &BodyAdminMessageReceiver::activeConfigurationChanged);
+
+    const char *textArgument = text.isNull() ? nullptr : text.constData();
+    QCOMPARE(receiver.receiveMessage("GlobalEvent", sender.constData(), textArgument), 0);
+
+    QCOMPARE(reopen.count(), signal == "dialogReopen" ? 1 : 0);
+    QCOMPARE(calibration.count(), signal == "BodyCalAvailable" ? 1 : 0);
+    QCOMPARE(adjustment.count(), signal == "BodyAdjustmentAvailable" ? 1 : 0);
+    QCOMPARE(configuration.count(), signal == "activeConfigurationChanged" ? 1 : 0);
+}
+
+void TestMessages::subscription()
+{
+    SimulatedController controller;
+    CommandChannel channel(&controller, &controller.backendVersions());
+    BodyAdminMessageReceiver receiver;
+    QSignalSpy reopen(&receiver, &BodyAdminMessageReceiver::dialogReopen);
+
+    receiver.subscribe(channel);
+    controller.sendMessage("BodyAdministrationModule", "BodyCalModule", 1, "reopen");
+    controller.sendMessage("GlobalEvent", "BodyCalModule", 1, "reopen");
+    controller.sendMessage("SomebodyElse", "BodyCalModule", 1, "reopen");
+    QCOMPARE(reopen.count(), 2);
+
+    receiver.unsubscribe(channel);
+    controller.sendMessage("BodyAdministrationModule", "BodyCalModule", 1, "reopen");
+    controller.sendMessage("GlobalEvent", "BodyCalModule", 1, "reopen");
+    QCOMPARE(reopen.count(), 2);
+}
+
+void TestMessages::requests_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("bodyType");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("calibration");
+    QTest::addColumn<QString>("receiver");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("custom calibration pads the number") << "custom"
+                                                        << "standard" << 11 << ""
+                                                        << "BodyCalModule"
+                                                        << "OpenBodyCalDialog standard b12";
+    QTest::newRow("custom calibration of body 100") << "custom"
+                                                    << "gripwand" << 99 << ""
+                                                    << "BodyCalModule"
+                                                    << "OpenBodyCalDialog gripwand b100";
+    QTest::newRow("adjustment sends the bare number")
+        << "adjust"
+        << "standard" << 11 << "Custom"
+        << "BodyAdjustmentModule"
+        << "OpenBodyAdjustmentDialog standard|12|calibrated";
+    QTest::newRow("adjustment of an uncalibrated body")
+        << "adjust"
+        << "fingertracking" << 0 << "not calibrated"
+        << "BodyAdjustmentModule"
+        << "OpenBodyAdjustmentDialog fingertracking|1|uncalibrated";
+    QTest::newRow("only the exact text means uncalibrated")
+        << "adjust"
+        << "standard" << 0 << "Not calibrated"
+        << "BodyAdjustmentModule"
+        << "OpenBodyAdjustmentDialog standard|1|calibrated";
+    QTest::newRow("hybrid passes the calibration text")
+        << "hybrid"
+        << "standard" << 2 << "Target Library, re-calibrated"
+        << "HybridBodyCalibration"
+        << "OpenHybridBodyCalibration standard|3|Target Library, re-calibrated";
+    QTest::newRow("hybrid of an uncalibrated body")
+        << "hybrid"
+        << "standard" << 2 << "not calibrated"
+        << "HybridBodyCalibration"
+        << "OpenHybridBodyCalibration standard|3|not calibrated";
+}
+
+void TestMessages::requests()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, bodyType);
+    QFETCH(int, index);
+    QFETCH(QString, calibration);
+    QFETCH(QString, receiver);
+    QFETCH(QString, text);
+
+    const HandOverRequest request = kind == "custom"
+        ? HandOverRequest::customCalibration(bodyType, index)
+        : kind == "adjust" ? HandOverRequest::bodyAdjustment(bodyType, index, calibration)
+                           : HandOverRequest::hybridCalibration(bodyType, index, calibration);
+
+    SimulatedController controller;
+    request.send(CommandChannel(&controller, &controller.backendVersions()));
+
+    QCOMPARE(controller.log().size(), 1);
+    const SimulatedController::LogEntry entry = controller.log().first();
+    QCOMPARE(entry.receiver, receiver);
+    QCOMPARE(entry.sender, QString("BodyAdministrationModule"));
+    QCOMPARE(entry.level, 1);
+    QCOMPARE(entry.text, text);
+}
+
+QTEST_GUILESS_MAIN(TestMessages)
+#include "tst_messages.moc"
