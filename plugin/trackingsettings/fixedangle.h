@@ -1,0 +1,33 @@
+#ifndef FIXEDANGLE_H
+#define FIXEDANGLE_H
+
+#include <QString>
+
+// The fixed-angle settings of one standard body: which rotations about the
+// room axes are held, and at which angle (degrees).
+class FixedAngle
+{
+public:
+    // More bodies than this is a broken reply, not a configuration; reading
+    // them one query at a time would stall the dialog.
+    static constexpr int MaxBodies = 999;
+    static bool isPlausibleCount(int count) { return count >= 0 && count <= MaxBodies; }
+
+    // Takes flags and angles from a "standard fixed_angle" reply: flag and
+    // angle for x, y and z, separated by blanks ("yes 5.00 no 0.00 no 0.00").
+    // Missing or unreadable fields read as not held and 0.
+    void setFromReply(const QString &reply);
+    bool anyHeld() const { return fixX || fixY || fixZ; }
+
+    int id = 0; // one-based body number
+    QString name;
+    bool usable = false; // calibrated, with a target type that allows fixed angles
+    bool fixX = false;
+    bool fixY = false;
+    bool fixZ = false;
+    double angleX = 0.0;
+    double angleY = 0.0;
+    double angleZ = 0.0;
+};
+
+#endif // FIXEDANGLE_H
