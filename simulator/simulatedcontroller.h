@@ -21,17 +21,25 @@ class SimulatedController : public QObject, public IOManager
     Q_OBJECT
 
 public:
-    struct LogEntry
-    {
+    struct LogEntry {
         enum Kind { Command, Query, Setting, Message, Timeout };
         Kind kind = Command;
         QString operation; // "sendCommand", "getString", ..., "sendMessage"
-        QString text;      // the formatted command, or the message text
-        QString reply;     // reply text as written into the buffer, or the typed value
-        int result = 0;    // what the operation returned
-        QString receiver;  // messages only
-        QString sender;    // messages only
-        int level = 0;     // messages only
+        QString text; // the formatted command, or the message text
+        QString reply; // reply text as written into the buffer, or the typed value
+        int result = 0; // what the operation returned
+        QString receiver; // messages only
+        QString sender; // messages only
+        int level = 0; // messages only
+        QString error; // why the controller refused, when it did
+    };
+
+    // Results of a refused command (0 is success; injected failures return
+    // whatever they were given).
+    enum Failure {
+        UnknownParameter = 1, // no such path, or not a meta command the channel knows
+        InvalidValue = 2, // the value does not fit the parameter, or a reply is no number
+        Refused = 3 // read-only, or the configuration is locked
     };
 
     explicit SimulatedController(QObject *parent = nullptr);
@@ -60,7 +68,7 @@ public:
     const QList<LogEntry> &log() const;
     QStringList commands() const; // texts of every command and query, in order
     QStringList messages() const; // texts of every sendMessage, in order
-    QStringList reports() const;  // texts sent to the message log ("standard")
+    QStringList reports() const; // texts sent to the message log ("standard")
     void clearLog();
 
     // Fault injection. A pattern is an exact command text, or a prefix when it
@@ -69,11 +77,13 @@ public:
     // The reply is written as given (cut to the reply buffer), without
     // changing the table; for getInt/getDouble/getBool it is parsed as the
     // controller's reply would be. unterminated fills the whole buffer
-    // without a terminating zero.
-    void replaceReply(const QString &pattern, const QByteArray &reply, int times = -1,
-                      bool unterminated = false);
+    // without a terminating zero. Settings have no reply to replace.
+    void replaceReply(
+        const QString &pattern, const QByteArray &reply, int times = -1, bool unterminated = false);
     void setLatency(int milliseconds);
     void clearInjections();
+    // The middle value of the last setReplyTimeout; 0 until one is set.
+    int replyTimeout() const;
 
     // The target search progresses with time. Tests switch to a manual clock
     // and advance it; the demo uses the wall clock.
@@ -88,8 +98,8 @@ public:
     int getDouble(double *value, const char *format, ...) override IOMANAGER_PRINTF(3, 4);
     int getBool(bool *value, const char *format, ...) override IOMANAGER_PRINTF(3, 4);
     int setParameter(const char *format, ...) override IOMANAGER_PRINTF(2, 3);
-    void sendMessage(const char *receiver, const char *sender, int level,
-                     const char *text) override;
+    void sendMessage(
+        const char *receiver, const char *sender, int level, const char *text) override;
     void registerReceiver(const char *name, MessageReceiver *receiver) override;
     void unregisterReceiver(const char *name, MessageReceiver *receiver) override;
 

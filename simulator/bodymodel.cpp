@@ -1,0 +1,395 @@
+#include "bodymodel.h"
+
+#include "parametertable.h"
+
+namespace
+{
+
+const QString BodyGroup = QStringLiteral("body");
+
+// Per-body parameters that a type keeps in its own group.
+QStringList ownPrefixes(const QString &type)
+{
+    if (type == QLatin1String("standard"))
+        return { QStringLiteral("standard fixed_angle") };
+    if (type == QLatin1String("gripwand"))
+        return { QStringLiteral("gripwand device") };
+    if (type == QLatin1String("measurementtool"))
+        return { QStringLiteral("measurementtool reference_of_tool") };
+    return {};
+}
+
+// Presets an inertial sensor's fusion works with; the others need optical
+// data only.
+bool presetFitsSensor(const QString &preset)
+{
+    return preset == QLatin1String("preset6d_default")
+        || preset == QLatin1String("preset6d_med_pred");
+}
+
+bool isNoneOrEmpty(const QString &value)
+{
+    return value.isEmpty() || value == QLatin1String("none");
+}
+
+// Values that refer to a body by "type bNN".
+QStringList bodyReferencePaths(const ParameterTable &table)
+{
+    QStringList paths { QStringLiteral("tracking reference") };
+    paths += table.pathsStartingWith(QStringLiteral("targetlib target_status_calibrated"));
+    return paths;
+}
+
+} // namespace
+
+BodyModel::BodyModel(ParameterTable &table)
+    : m_table(table)
+{
+}
+
+QStringList BodyModel::types()
+{
+    return { QStringLiteral("standard"), QStringLiteral("gripwand"),
+        QStringLiteral("multiusergripwand_head"), QStringLiteral("fingertracking"),
+        QStringLiteral("measurementtool"), QStringLiteral("measurementtool_reference") };
+}
+
+QString BodyModel::bodyId(int number)
+{
+    return QStringLiteral("b%1").arg(number, 2, 10, QLatin1Char('0'));
+}
+
+int BodyModel::bodyNumber(const QString &id)
+{
+    if (id.size() < 3 || id.at(0) != QLatin1Char('b'))
+        return -1;
+    bool ok = false;
+    const int number = id.midRef(1).toInt(&ok);
+    // Only the canonical spelling names a body: "b7" or "b007" do not.
+    if (!ok || number < 1 || bodyId(number) != id)
+        return -1;
+    return number;
+}
+
+QString BodyModel::bodyText(const QString &type, int number)
+{
+    return type + QLatin1Char(' ') + bodyId(number);
+}
+
+bool BodyModel::parseBodyText(const QString &text, QString *type, int *number)
+{
+    const QStringList words = text.split(QLatin1Char(' '));
+    if (words.size() != 2 || !types().contains(words.at(0)) || bodyNumber(words.at(1)) < 0)
+        return false;
+    *type = words.at(0);
+    *number = bodyNumber(words.at(1));
+    return true;
+}
+
+QStringList BodyModel::countPaths(const QString &type)
+{
+    QStringList paths { QStringLiteral("body number_of_bodies ") + type };
+    if (type == QLatin1String("standard"))
+        paths << QStringLiteral("standard number_of_bodies");
+    else if (type == QLatin1String("gripwand"))
+        paths << QStringLiteral("gripwand number_of_devices");
+    else if (type == QLatin1String("fingertracking"))
+        paths << QStringLiteral("fingertracking number_of_hands");
+    else if (type == QLatin1String("measurementtool"))
+        paths << QStringLiteral("measurementtool number_of_tools");
+    else if (type == QLatin1String("measurementtool_reference"))
+        paths << QStringLiteral("measurementtool number_of_references");
+    return paths;
+}
+
+QString BodyModel::maximumPath(const QString &type)
+{
+    if (type == QLatin1String("standard"))
+        return QStringLiteral("standard max_number_of_bodies");
+    if (type == QLatin1String("gripwand") || type == QLatin1String("multiusergripwand_head"))
+        return QStringLiteral("gripwand max_number_of_devices");
+    if (type == QLatin1String("fingertracking"))
+        return QStringLiteral("fingertracking max_number_of_hands");
+    if (type == QLatin1String("measurementtool"))
+        return QStringLiteral("measurementtool max_number_of_tools");
+    if (type == QLatin1String("measurementtool_reference"))
+        return QStringLiteral("measurementtool max_number_of_references");
+    return QString();
+}
+
+QString BodyModel::typeOfCountPath(const QString &path)
+{
+    for (const QString &type : types()) {
+        if (countPaths(type).contains(path))
+            return type;
+    }
+    return QString();
+}
+
+int BodyModel::count(const QString &type) const
+{
+    for (const QString &path : countPaths(type)) {
+        qint32 number = 0;
+        if (m_table.contains(path) && ParameterTable::toInt(m_table.value(path), &number))
+            return number;
+    }
+    return -1;
+}
+
+int BodyModel::maximum(const QString &type) const
+{
+    qint32 number = -1;
+    const QString path = maximumPath(type);
+    if (path.isEmpty() || !ParameterTable::toInt(m_table.value(path), &number))
+        return -1;
+    return number;
+}
+
+bool BodyModel::exists(const QString &type, int number) const
+{
+    return number >= 1 && number <= count(type);
+}
+
+QList<BodyModel::OwnedPath> BodyModel::ownedPaths(const QString &type, int number) const
+{
+    const QString id = bodyId(number);
+    QList<OwnedPath> owned;
+    for (const QString &path : m_table.pathsStartingWith(BodyGroup + QLatin1Char(' '))) {
+        const QStringList words = path.split(QLatin1Char(' '));
+        if (words.size() >= 4 && words.at(2) == type && words.at(3) == id)
+            owned.append({ words, 3 });
+    }
+    for (const QString &prefix : ownPrefixes(type)) {
+        const int idIndex = prefix.count(QLatin1Char(' ')) + 1;
+        for (const QString &path : m_table.pathsStartingWith(prefix + QLatin1Char(' ') + id)) {
+            const QStringList words = path.split(QLatin1Char(' '));
+            if (words.at(idIndex) == id)
+                owned.append({ words, idIndex });
+        }
+    }
+    return owned;
+}
+
+QStringList BodyModel::parameterPaths(const QString &type, int number) const
+{
+    QStringList paths;
+    for (const OwnedPath &path : ownedPaths(type, number))
+        paths << path.words.join(QLatin1Char(' '));
+    return paths;
+}
+
+QString BodyModel::defaultValue(
+    const QString &type, const OwnedPath &path, const QString &templateValue) const
+{
+    if (path.words.at(0) != BodyGroup) {
+        const QString prefix = path.words.mid(0, path.idIndex).join(QLatin1Char(' '));
+        if (prefix == QLatin1String("standard fixed_angle"))
+            return QStringLiteral("no 0.00 no 0.00 no 0.00");
+        return QStringLiteral("none");
+    }
+    const QString &name = path.words.at(1);
+    if (name == QLatin1String("desc"))
+        return QStringLiteral("\"\"");
+    if (name == QLatin1String("active") || name == QLatin1String("calibrated")
+        || name == QLatin1String("recalibrated"))
+        return QStringLiteral("no");
+    if (name == QLatin1String("targetlib_name") || name == QLatin1String("inertial_sensor")
+        || name == QLatin1String("target_type"))
+        return QStringLiteral("none");
+    if (name == QLatin1String("number_of_marker"))
+        return QStringLiteral("0");
+    if (name == QLatin1String("filter6d_enabled"))
+        return m_table.value(QStringLiteral("filter6d available ") + type) == QLatin1String("yes")
+            ? QStringLiteral("yes")
+            : QStringLiteral("no");
+    if (name == QLatin1String("filter6d_preset"))
+        return QStringLiteral("preset6d_default");
+    if (name == QLatin1String("filter6d_strength"))
+        return QStringLiteral("0.50");
+    if (name == QLatin1String("filter6d_prediction"))
+        return QStringLiteral("0.000");
+    if (name == QLatin1String("filter6d_mode")) {
+        const QString firstMode = m_table.value(QStringLiteral("filter6d mode_id t01"));
+        return firstMode.isEmpty() ? templateValue : firstMode;
+    }
+    if (name.endsWith(QLatin1String("_available")))
+        return QStringLiteral("yes");
+    return templateValue;
+}
+
+void BodyModel::createBody(const QString &type, int number, int templateNumber)
+{
+    const QString id = bodyId(number);
+    QList<OwnedPath> paths;
+    if (templateNumber > 0) {
+        paths = ownedPaths(type, templateNumber);
+    } else {
+        // A type without bodies has no pattern to follow: take the basics.
+        for (const char *name : { "desc", "active", "calibrated", "recalibrated", "targetlib_name",
+                 "number_of_marker" })
+            paths.append({ { BodyGroup, QLatin1String(name), type, id }, 3 });
+        for (const QString &prefix : ownPrefixes(type)) {
+            QStringList words = prefix.split(QLatin1Char(' '));
+            const int idIndex = words.size();
+            paths.append({ words << id, idIndex });
+        }
+    }
+    for (OwnedPath path : paths) {
+        const QString templateValue = m_table.value(path.words.join(QLatin1Char(' ')));
+        path.words[path.idIndex] = id;
+        m_table.set(path.words.join(QLatin1Char(' ')), defaultValue(type, path, templateValue));
+    }
+}
+
+void BodyModel::removeBody(const QString &type, int number)
+{
+    for (const QString &path : parameterPaths(type, number))
+        m_table.remove(path);
+    dropReferences(type, number);
+}
+
+bool BodyModel::resize(const QString &type, int newCount, QString *error)
+{
+    const int oldCount = count(type);
+    if (oldCount < 0) {
+        *error = QStringLiteral("no bodies of type %1").arg(type);
+        return false;
+    }
+    const int limit = maximum(type);
+    if (newCount < 0 || (limit >= 0 && newCount > limit)) {
+        *error = QStringLiteral("number of %1 bodies must be 0 to %2").arg(type).arg(limit);
+        return false;
+    }
+    for (int number = oldCount + 1; number <= newCount; ++number)
+        createBody(type, number, oldCount > 0 ? 1 : 0);
+    for (int number = oldCount; number > newCount; --number)
+        removeBody(type, number);
+    for (const QString &path : countPaths(type))
+        m_table.update(path, QString::number(newCount));
+    return true;
+}
+
+bool BodyModel::exchange(const QString &type, int first, int second, QString *error)
+{
+    if (!exists(type, first) || !exists(type, second)) {
+        *error = QStringLiteral("no such %1 body").arg(type);
+        return false;
+    }
+    if (first == second)
+        return true;
+    struct Move {
+        QString from;
+        QString to;
+        QString value;
+    };
+    QList<Move> moves;
+    const auto collect = [&](int from, int to) {
+        for (OwnedPath path : ownedPaths(type, from)) {
+            const QString oldPath = path.words.join(QLatin1Char(' '));
+            path.words[path.idIndex] = bodyId(to);
+            moves.append({ oldPath, path.words.join(QLatin1Char(' ')), m_table.value(oldPath) });
+        }
+    };
+    collect(first, second);
+    collect(second, first);
+    for (const Move &move : moves)
+        m_table.remove(move.from);
+    for (const Move &move : moves)
+        m_table.set(move.to, move.value);
+    swapReferences(type, first, second);
+    return true;
+}
+
+void BodyModel::swapReferences(const QString &type, int first, int second)
+{
+    const QString a = bodyText(type, first);
+    const QString b = bodyText(type, second);
+    for (const QString &path : bodyReferencePaths(m_table)) {
+        const QString value = m_table.value(path);
+        if (value == a)
+            m_table.update(path, b);
+        else if (value == b)
+            m_table.update(path, a);
+    }
+    if (type != QLatin1String("measurementtool_reference"))
+        return;
+    // Tools name their reference by its bare number.
+    const QString numberA = QString::number(first);
+    const QString numberB = QString::number(second);
+    for (const QString &path :
+        m_table.pathsStartingWith(QStringLiteral("measurementtool reference_of_tool "))) {
+        const QString value = m_table.value(path);
+        if (value == numberA)
+            m_table.update(path, numberB);
+        else if (value == numberB)
+            m_table.update(path, numberA);
+    }
+}
+
+void BodyModel::dropReferences(const QString &type, int number)
+{
+    const QString body = bodyText(type, number);
+    for (const QString &path : bodyReferencePaths(m_table)) {
+        if (m_table.value(path) == body)
+            m_table.update(path, QStringLiteral("none"));
+    }
+    if (type != QLatin1String("measurementtool_reference"))
+        return;
+    for (const QString &path :
+        m_table.pathsStartingWith(QStringLiteral("measurementtool reference_of_tool "))) {
+        if (m_table.value(path) == QString::number(number))
+            m_table.update(path, QStringLiteral("none"));
+    }
+}
+
+void BodyModel::uncalibrate(const QString &type, int number)
+{
+    const QString suffix = QLatin1Char(' ') + bodyText(type, number);
+    m_table.update(QStringLiteral("body calibrated") + suffix, QStringLiteral("no"));
+    m_table.update(QStringLiteral("body recalibrated") + suffix, QStringLiteral("no"));
+    m_table.update(QStringLiteral("body active") + suffix, QStringLiteral("no"));
+    m_table.update(QStringLiteral("body targetlib_name") + suffix, QStringLiteral("none"));
+    m_table.update(QStringLiteral("body target_type") + suffix, QStringLiteral("none"));
+    m_table.update(QStringLiteral("body number_of_marker") + suffix, QStringLiteral("0"));
+    // Library targets forget the body, but it stays the reference: the
+    // controller leaves that choice to the user.
+    const QString body = bodyText(type, number);
+    for (const QString &path :
+        m_table.pathsStartingWith(QStringLiteral("targetlib target_status_calibrated"))) {
+        if (m_table.value(path) == body)
+            m_table.update(path, QStringLiteral("none"));
+    }
+}
+
+void BodyModel::calibrate(const QString &type, int number, const QString &targetName, int markers)
+{
+    const QString suffix = QLatin1Char(' ') + bodyText(type, number);
+    const bool wasCalibrated
+        = m_table.value(QStringLiteral("body calibrated") + suffix) == QLatin1String("yes");
+    m_table.update(QStringLiteral("body calibrated") + suffix, QStringLiteral("yes"));
+    m_table.update(QStringLiteral("body recalibrated") + suffix, QStringLiteral("no"));
+    m_table.update(QStringLiteral("body targetlib_name") + suffix, targetName);
+    m_table.update(QStringLiteral("body target_type") + suffix, QStringLiteral("tt_std"));
+    m_table.update(QStringLiteral("body number_of_marker") + suffix, QString::number(markers));
+    // A body that gets its first geometry starts tracking; a re-calibrated
+    // one keeps what the user chose.
+    if (!wasCalibrated)
+        m_table.update(QStringLiteral("body active") + suffix, QStringLiteral("yes"));
+}
+
+void BodyModel::updateFilterAvailability(const QString &type, int number)
+{
+    const QString suffix = QLatin1Char(' ') + bodyText(type, number);
+    const bool hasSensor
+        = !isNoneOrEmpty(m_table.value(QStringLiteral("body inertial_sensor") + suffix));
+    const QString availablePrefix = QStringLiteral("body filter6d_preset_available") + suffix;
+    for (const QString &path : m_table.pathsStartingWith(availablePrefix + QLatin1Char(' '))) {
+        const QString preset = path.mid(availablePrefix.size() + 1);
+        const bool available = !hasSensor || presetFitsSensor(preset);
+        m_table.set(path, available ? QStringLiteral("yes") : QStringLiteral("no"));
+    }
+    const QString presetPath = QStringLiteral("body filter6d_preset") + suffix;
+    const QString preset = m_table.value(presetPath);
+    if (m_table.value(availablePrefix + QLatin1Char(' ') + preset) == QLatin1String("no"))
+        m_table.update(presetPath, QStringLiteral("preset6d_default"));
+}

@@ -1,0 +1,37 @@
+#ifndef FAULTINJECTOR_H
+#define FAULTINJECTOR_H
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+// Failures and doctored replies that the simulated controller gives instead
+// of its own answer. A pattern is an exact command text, or a prefix when it
+// ends with '*'. The newest matching injection wins; one with a count is
+// used up after that many commands.
+class FaultInjector
+{
+public:
+    struct Injection {
+        QString pattern;
+        bool fails = false; // else the reply replaces the controller's
+        int result = 0;
+        QByteArray reply;
+        bool unterminated = false;
+        int times = -1; // < 0: forever
+        bool fromScenario = false;
+    };
+
+    static bool matches(const QString &pattern, const QString &command);
+
+    void add(const Injection &injection) { m_injections.append(injection); }
+    void clear() { m_injections.clear(); }
+    void clearScenarioInjections();
+    // Takes the injection for this command, if any, counting it down.
+    bool take(const QString &command, bool settingOnly, Injection *injection);
+
+private:
+    QList<Injection> m_injections;
+};
+
+#endif // FAULTINJECTOR_H

@@ -1,0 +1,106 @@
+#include "librarytargets.h"
+
+#include "bodymodel.h"
+#include "parametertable.h"
+
+namespace
+{
+
+QString targetPath(const char *name, const QString &id)
+{
+    return QStringLiteral("targetlib ") + QLatin1String(name) + QLatin1Char(' ') + id;
+}
+
+} // namespace
+
+LibraryTargets::LibraryTargets(ParameterTable &table)
+    : m_table(table)
+{
+}
+
+QString LibraryTargets::targetId(int number)
+{
+    return QStringLiteral("t%1").arg(number, 2, 10, QLatin1Char('0'));
+}
+
+QStringList LibraryTargets::ids() const
+{
+    qint32 count = 0;
+    ParameterTable::toInt(m_table.value(QStringLiteral("targetlib number_of_targets")), &count);
+    QStringList ids;
+    for (int number = 1; number <= count; ++number)
+        ids << targetId(number);
+    return ids;
+}
+
+QString LibraryTargets::nameOf(const QString &id) const
+{
+    const QString text = m_table.value(targetPath("target_name", id));
+    return text.section(QLatin1Char(' '), 0, 0).remove(QLatin1Char('\''));
+}
+
+QString LibraryTargets::idOfName(const QString &name) const
+{
+    if (name.isEmpty())
+        return QString();
+    for (const QString &id : ids()) {
+        if (nameOf(id) == name)
+            return id;
+    }
+    return QString();
+}
+
+QString LibraryTargets::bodyTypeOf(const QString &id) const
+{
+    return m_table.value(targetPath("target_bodytype", id)).remove(QLatin1Char('\''));
+}
+
+int LibraryTargets::markersOf(const QString &id, int fallback) const
+{
+    qint32 markers = 0;
+    if (!ParameterTable::toInt(m_table.value(targetPath("target_number_of_markers", id)), &markers)
+        || markers < 1)
+        return fallback;
+    return markers;
+}
+
+void LibraryTargets::setCalibratedBody(const QString &id, const QString &body)
+{
+    m_table.update(targetPath("target_status_calibrated", id), body);
+}
+
+void LibraryTargets::setTracked(const QString &id, bool tracked)
+{
+    m_table.update(targetPath("target_status_tracked", id),
+        tracked ? QStringLiteral("yes") : QStringLiteral("no"));
+}
+
+void LibraryTargets::clearTracked()
+{
+    for (const QString &id : ids())
+        setTracked(id, false);
+}
+
+void LibraryTargets::checkCustomCalibration(const BodyModel &bodies)
+{
+    for (const QString &id : ids()) {
+        const QString path = targetPath("target_status_calibrated_custom", id);
+        if (!m_table.contains(path))
+            continue;
+        const QString type = bodyTypeOf(id);
+        const int markers = markersOf(id, 0);
+        QString match = QStringLiteral("none");
+        for (int number = 1; markers > 0 && number <= bodies.count(type); ++number) {
+            const QString suffix = QLatin1Char(' ') + BodyModel::bodyText(type, number);
+            if (m_table.value(QStringLiteral("body calibrated") + suffix) == QLatin1String("yes")
+                && m_table.value(QStringLiteral("body targetlib_name") + suffix)
+                    == QLatin1String("none")
+                && m_table.value(QStringLiteral("body number_of_marker") + suffix)
+                    == QString::number(markers)) {
+                match = BodyModel::bodyText(type, number);
+                break;
+            }
+        }
+        m_table.set(path, match);
+    }
+}

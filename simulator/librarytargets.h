@@ -1,0 +1,41 @@
+#ifndef LIBRARYTARGETS_H
+#define LIBRARYTARGETS_H
+
+#include <QString>
+#include <QStringList>
+
+class BodyModel;
+class ParameterTable;
+
+// The controller's target library as its parameters describe it: targets
+// "tNN" with a name, a body type, a number of markers and their status
+// (which body uses them, whether the camera sees them now).
+class LibraryTargets
+{
+public:
+    explicit LibraryTargets(ParameterTable &table);
+
+    static QString targetId(int number);
+
+    QStringList ids() const;
+    // The name a body refers to its target by: the first word of the
+    // target's name, without single quotes.
+    QString nameOf(const QString &id) const;
+    QString idOfName(const QString &name) const;
+    QString bodyTypeOf(const QString &id) const;
+    // Markers of the stored geometry; fallback when the library does not say.
+    int markersOf(const QString &id, int fallback) const;
+
+    // Which body the target's geometry went to ("standard b03" or "none").
+    void setCalibratedBody(const QString &id, const QString &body);
+    void setTracked(const QString &id, bool tracked);
+    void clearTracked();
+    // A custom-calibrated body whose geometry matches a library target
+    // (same body type and number of markers) is recorded with the target.
+    void checkCustomCalibration(const BodyModel &bodies);
+
+private:
+    ParameterTable &m_table;
+};
+
+#endif // LIBRARYTARGETS_H

@@ -1,0 +1,44 @@
+#ifndef PARAMETERTABLE_H
+#define PARAMETERTABLE_H
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+// The controller's parameters: path -> value text, exactly as the controller
+// would answer a query. Paths are the query texts themselves ("body desc
+// standard b01"), so lookups never interpret them.
+class ParameterTable
+{
+public:
+    bool contains(const QString &path) const { return m_values.contains(path); }
+    QString value(const QString &path) const { return m_values.value(path); }
+    void set(const QString &path, const QString &value) { m_values.insert(path, value); }
+    void remove(const QString &path) { m_values.remove(path); }
+    void clear() { m_values.clear(); }
+    const QMap<QString, QString> &values() const { return m_values; }
+    void replace(const QMap<QString, QString> &values) { m_values = values; }
+
+    // Sets value only where the path exists; a controller does not grow
+    // parameters it never had.
+    void update(const QString &path, const QString &value);
+    // Every path that begins with prefix.
+    QStringList pathsStartingWith(const QString &prefix) const;
+
+    // Splits a setting "path value..." at the longest leading run of words
+    // that is a known path. Returns false when no prefix is known or no
+    // value follows it; *path is still set when the whole text is a path.
+    bool split(const QString &command, QString *path, QString *value) const;
+
+    // The controller's reading of a reply as a typed value.
+    static bool toInt(const QString &text, qint32 *value);
+    static bool toDouble(const QString &text, double *value);
+    static bool toBool(const QString &text, bool *value);
+    static bool isNumber(const QString &text);
+    static bool isYesNo(const QString &text);
+
+private:
+    QMap<QString, QString> m_values;
+};
+
+#endif // PARAMETERTABLE_H

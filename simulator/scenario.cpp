@@ -1,0 +1,180 @@
+#include "scenario.h"
+
+#include <QRegularExpression>
+
+namespace
+{
+
+const QString Separator = QStringLiteral(" = ");
+
+// "PATH = VALUE"; an empty value may lose its trailing blank in an editor.
+bool splitAssignment(const QString &line, QString *left, QString *right)
+{
+    const int at = line.indexOf(Separator);
+    if (at >= 0) {
+        *left = line.left(at).trimmed();
+        *right = line.mid(at + Separator.size());
+        return true;
+    }
+    if (line.endsWith(QLatin1String(" ="))) {
+        *left = line.left(line.size() - 2).trimmed();
+        right->clear();
+        return true;
+    }
+    return false;
+}
+
+} // namespace
+
+bool Scenario::parseVersion(const QString &text, BackendVersions::Version *version)
+{
+    static const QRegularExpression pattern(QStringLiteral("^(\\d+)\\.(\\d+)\\.(-?\\d+)$"));
+    const QRegularExpressionMatch match = pattern.match(text);
+    if (!match.hasMatch())
+        return false;
+    bool ok[3] = {};
+    const BackendVersions::Version parsed { match.captured(1).toInt(&ok[0]),
+        match.captured(2).toInt(&ok[1]), match.captured(3).toInt(&ok[2]) };
+    if (!ok[0] || !ok[1] || !ok[2])
+        return false;
+    *version = parsed;
+    return true;
+}
+
+bool Scenario::parse(const QString &text, const QString &name)
+{
+    m_name = name;
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (int i = 0; i < lines.size(); ++i) {
+        QString line = lines.at(i);
+        if (line.endsWith(QLatin1Char('\r')))
+            line.chop(1);
+        parseLine(line, i + 1);
+    }
+    return m_errors.isEmpty();
+}
+
+void Scenario::addError(int line, const QString &reason)
+{
+    m_errors << QStringLiteral("%1:%2: %3").arg(m_name).arg(line).arg(reason);
+}
+
+void Scenario::parseLine(const QString &line, int number)
+{
+    const QString trimmed = line.trimmed();
+    if (trimmed.isEmpty() || trimmed.startsWith(QLatin1Char('#')))
+        return;
+    if (trimmed.startsWith(QLatin1Char('@'))) {
+        const QString directive = trimmed.section(QLatin1Char(' '), 0, 0);
+        // Only the start is trimmed: a doctored reply may end in a blank.
+        QString argument = line.mid(line.indexOf(directive) + directive.size());
+        while (argument.startsWith(QLatin1Char(' ')) || argument.startsWith(QLatin1Char('\t')))
+            argument.remove(0, 1);
+        parseDirective(directive, argument, number);
+        return;
+    }
+    QString path;
+    QString value;
+    if (!splitAssignment(line, &path, &value)) {
+        addError(number, QStringLiteral("expected \"PATH = VALUE\""));
+        return;
+    }
+    if (path.isEmpty()) {
+        addError(number, QStringLiteral("no parameter path"));
+        return;
+    }
+    if (path.startsWith(QLatin1String("velora2 ")) || path == QLatin1String("velora2")) {
+        addError(number, QStringLiteral("meta commands are not parameters"));
+        return;
+    }
+    if (m_lines.contains(path)) {
+        addError(number,
+            QStringLiteral("duplicate parameter \"%1\" (first on line %2)")
+                .arg(path)
+                .arg(m_lines.value(path)));
+        return;
+    }
+    m_parameters.insert(path, value);
+    m_lines.insert(path, number);
+}
+
+bool Scenario::once(const QString &directive, int line)
+{
+    if (m_directiveLines.contains(directive)) {
+        addError(line,
+            QStringLiteral("%1 given twice (first on line %2)")
+                .arg(directive)
+                .arg(m_directiveLines.value(directive)));
+        return false;
+    }
+    m_directiveLines.insert(directive, line);
+    return true;
+}
+
+void Scenario::parseDirective(const QString &directive, const QString &rawArgument, int number)
+{
+    const QString argument = rawArgument.trimmed();
+    if (directive == QLatin1String("@backend-version")
+        || directive == QLatin1String("@system-version")) {
+        BackendVersions::Version version;
+        if (!parseVersion(argument, &version)) {
+            addError(number, QStringLiteral("bad version \"%1\"").arg(argument));
+            return;
+        }
+        if (!once(directive, number))
+            return;
+        if (directive == QLatin1String("@backend-version"))
+            m_versions.backendVersion = version;
+        else
+            m_versions.systemVersion = version;
+    } else if (directive == QLatin1String("@system-type")) {
+        if (argument.isEmpty()) {
+            addError(number, QStringLiteral("no system type"));
+            return;
+        }
+        if (once(directive, number))
+            m_versions.systemType = argument;
+    } else if (directive == QLatin1String("@present")) {
+        static const QRegularExpression targetId(QStringLiteral("^t\\d{2,}$"));
+        for (const QString &id : argument.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            if (!targetId.match(id).hasMatch())
+                addError(number, QStringLiteral("bad target id \"%1\"").arg(id));
+            else if (!m_present.contains(id))
+                m_present << id;
+        }
+    } else if (directive == QLatin1String("@search-duration")) {
+        bool ok = false;
+        const int duration = argument.toInt(&ok);
+        if (!ok || duration <= 0) {
+            addError(number, QStringLiteral("bad search duration \"%1\"").arg(argument));
+            return;
+        }
+        if (once(directive, number))
+            m_searchDuration = duration;
+    } else if (directive == QLatin1String("@fail")) {
+        if (argument.isEmpty()) {
+            addError(number, QStringLiteral("no command pattern"));
+            return;
+        }
+        FaultInjector::Injection injection;
+        injection.pattern = argument;
+        injection.fails = true;
+        injection.result = 1;
+        injection.fromScenario = true;
+        m_injections << injection;
+    } else if (directive == QLatin1String("@reply")) {
+        QString pattern;
+        QString reply;
+        if (!splitAssignment(rawArgument, &pattern, &reply) || pattern.isEmpty()) {
+            addError(number, QStringLiteral("expected \"@reply PATTERN = TEXT\""));
+            return;
+        }
+        FaultInjector::Injection injection;
+        injection.pattern = pattern;
+        injection.reply = reply.toLatin1();
+        injection.fromScenario = true;
+        m_injections << injection;
+    } else {
+        addError(number, QStringLiteral("unknown directive %1").arg(directive));
+    }
+}
