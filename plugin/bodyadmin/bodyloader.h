@@ -1,0 +1,36 @@
+#ifndef BODYLOADER_H
+#define BODYLOADER_H
+
+#include "bodyrecord.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+class CommandChannel;
+
+// Reads bodies and body types from the controller, asking only what the
+// controller's version understands. Failed queries are reported and leave
+// the field at its default.
+class BodyLoader
+{
+    Q_DECLARE_TR_FUNCTIONS(BodyLoader)
+
+public:
+    explicit BodyLoader(const CommandChannel &channel);
+
+    int numberOfBodies(const QString &type) const;
+    QString typeDescription(const QString &type) const;
+    bool filterAvailable(const QString &type) const;
+
+    BodyRecord load(const QString &type, int index) const;
+    QString filterText(const QString &type, int index) const;
+    static QString calibrationText(const BodyRecord &body);
+
+private:
+    QString bodyQuery(const char *parameter, const QString &type, int index) const;
+    bool isReference(const QString &type, int index) const;
+
+    const CommandChannel &m_channel;
+};
+
+#endif // BODYLOADER_H

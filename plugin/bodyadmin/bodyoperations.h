@@ -1,0 +1,54 @@
+#ifndef BODYOPERATIONS_H
+#define BODYOPERATIONS_H
+
+#include "bodytypeentry.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+class CommandChannel;
+class QWidget;
+
+// The edit operations on one cached body: they ask the user where the
+// action destroys something, send the commands in the controller's order and
+// keep the cache in step. Nothing is rolled back after a partial failure;
+// reloading the body afterwards is the caller's job.
+class BodyOperations
+{
+    Q_DECLARE_TR_FUNCTIONS(BodyOperations)
+
+public:
+    // parent: the widget the questions and warnings belong to.
+    BodyOperations(const CommandChannel &channel, QWidget *parent);
+
+    void setActive(BodyTypeEntry &entry, const QString &type, int index, bool active) const;
+    void setDescription(
+        BodyTypeEntry &entry, const QString &type, int index, const QString &text) const;
+    // Standard bodies only; returns false when nothing could be changed.
+    bool setReference(BodyTypeEntry &entry, const QString &type, int index, bool set) const;
+    bool reset(const BodyTypeEntry &entry, const QString &type, int index) const;
+    bool remove(const BodyTypeEntry &entry, const QString &type, int index) const;
+    bool switchBodies(
+        const BodyTypeEntry &entry, const QString &type, int indexA, int indexB) const;
+
+    // Calibrates the body from a library target after asking whether its
+    // name may be overwritten (no question for an unnamed body). Other bodies
+    // of the type that used the target are freed first; affected gets every
+    // body that changed. False when the user refused or the controller failed.
+    bool calibrateFromTarget(const BodyTypeEntry &entry, const QString &type, int index,
+        const QString &targetName, const QString &bodyName, QList<int> *affected) const;
+
+    // A Yes/No warning whose default is No.
+    bool ask(const QString &question) const;
+    void warn(const QString &text) const;
+
+private:
+    bool resetToTargetLibrary(const BodyTypeEntry &entry, const QString &type, int index) const;
+    bool resetSensor(const BodyTypeEntry &entry, int index) const;
+    QString bodyCommand(const char *parameter, const QString &type, int index) const;
+
+    const CommandChannel &m_channel;
+    QWidget *m_parent;
+};
+
+#endif // BODYOPERATIONS_H

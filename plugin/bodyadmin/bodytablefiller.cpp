@@ -1,0 +1,127 @@
+#include "bodytablefiller.h"
+
+#include "commandchannel.h"
+
+#include <QSignalBlocker>
+#include <QTableWidget>
+
+// "inertial available" and "inertial warmup" are asked at most once per
+// table refresh, and only when a row needs them.
+struct BodyTableFiller::InertialState {
+    bool asked = false;
+    bool available = false;
+    bool warmingUp = false;
+};
+
+BodyTableFiller::BodyTableFiller(const CommandChannel &channel)
+    : m_channel(channel)
+    , m_green(QStringLiteral(":/green.png"))
+    , m_yellow(QStringLiteral(":/yellow.png"))
+    , m_red(QStringLiteral(":/red.png"))
+    , m_delete(QStringLiteral(":/118.png"))
+    , m_reset(QStringLiteral(":/48.png"))
+{
+}
+
+QIcon BodyTableFiller::disabledLook(const QIcon &icon)
+{
+    const QList<QSize> sizes = icon.availableSizes();
+    if (sizes.isEmpty())
+        return QIcon();
+    return QIcon(icon.pixmap(sizes.first(), QIcon::Disabled));
+}
+
+void BodyTableFiller::fill(const BodyTypeEntry &entry, const ExtraColumnFiller &extraColumn) const
+{
+    QTableWidget *table = entry.table;
+    if (!table)
+        return;
+    // Filling is not editing: no itemChanged may reach the controller.
+    const QSignalBlocker blocker(table);
+    table->setColumnCount(entry.columnRoles.size());
+    table->setRowCount(entry.bodies.size());
+    InertialState inertial;
+    for (int row = 0; row < entry.bodies.size(); ++row) {
+        for (int column = 0; column < entry.columnRoles.size(); ++column) {
+            const int role = entry.columnRoles.at(column);
+            QTableWidgetItem *item = cell(entry, row, role, inertial);
+            if (role < IdColumn || role > ResetColumn)
+                extraColumn(row, column, item);
+            table->setItem(row, column, item);
+        }
+    }
+}
+
+QTableWidgetItem *BodyTableFiller::cell(
+    const BodyTypeEntry &entry, int index, int role, InertialState &inertial) const
+{
+    const BodyRecord &body = entry.bodies.at(index);
+    auto *item = new QTableWidgetItem;
+    item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    const auto checkable = [item](bool checked) {
+        item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
+        item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+    };
+    const auto usable = [item](const QIcon &icon, bool isUsable) {
+        item->setIcon(isUsable ? icon : disabledLook(icon));
+        item->setData(UsableRole, isUsable ? 1 : 0);
+    };
+
+    switch (role) {
+    case IdColumn:
+        item->setText(entry.idFormat.arg(index + 1));
+        break;
+    case ActiveColumn:
+        if (body.calibrated || body.active)
+            checkable(body.active);
+        break;
+    case ReferenceColumn:
+        if (body.calibrated || body.active)
+            checkable(body.isReference);
+        break;
+    case NameColumn:
+        item->setText(body.description);
+        item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsEnabled);
+        break;
+    case CalibrationColumn:
+        item->setText(body.calibrationText);
+        item->setFlags(Qt::ItemIsEnabled);
+        if (!body.calibrated)
+            item->setIcon(disabledLook(m_red));
+        else if (body.hasInertialSensor() && !body.hybridCalibrated)
+            item->setIcon(m_yellow);
+        else
+            item->setIcon(m_green);
+        break;
+    case FilterColumn:
+        item->setText(body.filterText);
+        break;
+    case DeleteColumn:
+        usable(m_delete, body.calibrated || body.hasInertialSensor());
+        break;
+    case ResetColumn:
+        usable(m_reset,
+            (!body.targetLibraryName.isEmpty() && body.recalibrated)
+                || sensorResetUsable(body, inertial));
+        break;
+    default:
+        break;
+    }
+    return item;
+}
+
+bool BodyTableFiller::sensorResetUsable(const BodyRecord &body, InertialState &inertial) const
+{
+    if (!body.hasInertialSensor() || !m_channel.atLeast(1, 12))
+        return false;
+    if (!inertial.asked) {
+        inertial.asked = true;
+        QString reply;
+        if (m_channel.getString(QStringLiteral("inertial available"), &reply) != 0)
+            m_channel.report(tr("Error: Unable to get info inertial tracking available"));
+        inertial.available = CommandText::isYes(reply);
+        inertial.warmingUp
+            = CommandText::isYes(m_channel.stringOf(QStringLiteral("inertial warmup")));
+    }
+    return inertial.available && !inertial.warmingUp;
+}

@@ -1,0 +1,46 @@
+#ifndef BODYTABLEFILLER_H
+#define BODYTABLEFILLER_H
+
+#include "bodytypeentry.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+
+#include <functional>
+
+class CommandChannel;
+class QTableWidgetItem;
+
+// Fills a body table from the cache, each cell according to its column's
+// role. Cells of other columns are left to the tab.
+class BodyTableFiller
+{
+    Q_DECLARE_TR_FUNCTIONS(BodyTableFiller)
+
+public:
+    // Item data of the delete and reset cells: 1 when the action is usable.
+    static constexpr int UsableRole = Qt::UserRole + 1;
+    using ExtraColumnFiller = std::function<void(int index, int column, QTableWidgetItem *item)>;
+
+    explicit BodyTableFiller(const CommandChannel &channel);
+
+    void fill(const BodyTypeEntry &entry, const ExtraColumnFiller &extraColumn) const;
+
+    // The icon's first size, drawn disabled.
+    static QIcon disabledLook(const QIcon &icon);
+
+private:
+    struct InertialState;
+    QTableWidgetItem *cell(
+        const BodyTypeEntry &entry, int index, int role, InertialState &inertial) const;
+    bool sensorResetUsable(const BodyRecord &body, InertialState &inertial) const;
+
+    const CommandChannel &m_channel;
+    QIcon m_green;
+    QIcon m_yellow;
+    QIcon m_red;
+    QIcon m_delete;
+    QIcon m_reset;
+};
+
+#endif // BODYTABLEFILLER_H

@@ -1,0 +1,163 @@
+#include "targetstatus.h"
+
+#include "commandchannel.h"
+#include "target.h"
+#include "targetlibrary.h"
+
+#include <QHeaderView>
+#include <QTableWidget>
+
+const QString TargetStatus::FoundTargets = QStringLiteral("- Found Targets -");
+
+namespace
+{
+
+const QColor TrackedColor(170, 230, 170);
+const QColor UntrackedColor(245, 200, 200);
+
+} // namespace
+
+TargetStatus::TargetStatus(const CommandChannel &channel, Targetlibrary *library)
+    : m_channel(channel)
+    , m_library(library)
+    , m_customIcon(QStringLiteral(":/green.png"))
+{
+}
+
+bool TargetStatus::isTracked(const QString &id) const
+{
+    QString reply;
+    m_channel.getString(QStringLiteral("targetlib target_status_tracked %1").arg(id), &reply);
+    return reply.startsWith(QLatin1String("ye"));
+}
+
+void TargetStatus::refreshTracked(const QString &bodyType) const
+{
+    if (!m_library)
+        return;
+    for (Target *target : qAsConst(m_library->targets)) {
+        if (target->bodyType == bodyType)
+            target->tracked = isTracked(target->id);
+    }
+}
+
+void TargetStatus::refreshCalibrated(const QString &id) const
+{
+    Target *target = m_library ? m_library->target(id) : nullptr;
+    if (!target)
+        return;
+    QString reply;
+    if (m_channel.getString(QStringLiteral("targetlib target_status_calibrated %1").arg(id), &reply)
+        != 0)
+        reply = CommandText::none();
+    target->calibrated = !CommandText::isNone(reply);
+}
+
+void TargetStatus::refreshCalibratedOfGroup(const QString &bodyType, const QString &group) const
+{
+    const QList<Target *> targets = targetsOf(bodyType, group);
+    for (const Target *target : targets)
+        refreshCalibrated(target->id);
+}
+
+int TargetStatus::countTracked(const QString &bodyType) const
+{
+    int count = 0;
+    if (!m_library)
+        return count;
+    for (const Target *target : qAsConst(m_library->targets)) {
+        if (target->bodyType == bodyType && isTracked(target->id))
+            ++count;
+    }
+    return count;
+}
+
+QStringList TargetStatus::categories(const QString &bodyType) const
+{
+    QStringList groups;
+    if (!m_library)
+        return groups;
+    for (const Target *target : qAsConst(m_library->targets)) {
+        if (target->bodyType == bodyType && !groups.contains(target->group))
+            groups.append(target->group);
+    }
+    groups.sort(Qt::CaseSensitive);
+    return groups;
+}
+
+QList<Target *> TargetStatus::targetsOf(const QString &bodyType, const QString &group) const
+{
+    QList<Target *> result;
+    if (!m_library)
+        return result;
+    const bool found = group == FoundTargets;
+    for (Target *target : qAsConst(m_library->targets)) {
+        if (target->bodyType != bodyType)
+            continue;
+        if (found ? target->tracked : (group.isEmpty() || target->group == group))
+            result.append(target);
+    }
+    return result;
+}
+
+void TargetStatus::setUpTable(QTableWidget *table)
+{
+    table->setColumnCount(4);
+    table->setHorizontalHeaderLabels({ tr("Used"), tr("Name"), tr("Short Name"), tr("ID") });
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setSectionsClickable(false);
+    table->horizontalHeader()->setStretchLastSection(true);
+}
+
+QString TargetStatus::customCalibrationOf(const QString &id) const
+{
+    if (!m_channel.atLeast(1, 12))
+        return CommandText::none();
+    QString reply;
+    if (m_channel.getString(
+            QStringLiteral("targetlib target_status_calibrated_custom %1").arg(id), &reply)
+        != 0)
+        return CommandText::none();
+    return reply;
+}
+
+void TargetStatus::fillTable(
+    QTableWidget *table, const QString &bodyType, const QString &group) const
+{
+    table->clearContents();
+    table->setRowCount(0);
+
+    // The check is slow and would disturb a running search or measurement.
+    const QString active = m_channel.stringOf(QStringLiteral("status active"));
+    if (!active.startsWith(QLatin1String("cal")) && !active.startsWith(QLatin1String("mea"))) {
+        m_channel.setReplyTimeout(0, 5000, 0);
+        m_channel.sendCommand(QStringLiteral("velora2 targetlib check_custom_calibration"));
+    }
+
+    const QList<Target *> targets = targetsOf(bodyType, group);
+    for (const Target *target : targets) {
+        const int row = table->rowCount();
+        table->insertRow(row);
+        table->setItem(row, IdColumn, new QTableWidgetItem(target->id));
+        table->setItem(row, NameColumn, new QTableWidgetItem(target->description));
+        table->setItem(row, ShortNameColumn, new QTableWidgetItem(target->name));
+        const bool custom = !CommandText::isNone(customCalibrationOf(target->id));
+        auto *state = custom ? new QTableWidgetItem(m_customIcon, tr("custom"))
+                             : new QTableWidgetItem(tr("no"));
+        state->setFlags(Qt::ItemIsEnabled);
+        table->setItem(row, CustomColumn, state);
+    }
+}
+
+void TargetStatus::showTracked(QTableWidget *table) const
+{
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const QTableWidgetItem *id = table->item(row, IdColumn);
+        QTableWidgetItem *name = table->item(row, NameColumn);
+        if (id && name)
+            name->setBackground(isTracked(id->text()) ? TrackedColor : UntrackedColor);
+    }
+}
