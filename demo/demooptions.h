@@ -1,0 +1,47 @@
+#ifndef DEMOOPTIONS_H
+#define DEMOOPTIONS_H
+
+#include <backendversions.h>
+
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+// What the command line asks of the demo host. Unset overrides leave the
+// scenario's values as they are.
+class DemoOptions
+{
+    Q_DECLARE_TR_FUNCTIONS(DemoOptions)
+
+public:
+    enum Outcome { Run, ShowHelp, ShowVersion, ListScenarios, Error };
+
+    // QGuiApplication takes "-plugin" and "--plugin" for plug-ins of its own,
+    // so ours is read off argv before the application is made: returns every
+    // argument and leaves argv without that option.
+    static QStringList takeArguments(int &argc, char **argv);
+
+    // Fills options from arguments (program name first). For ShowHelp and
+    // Error, message holds the text to print.
+    static Outcome parse(const QStringList &arguments, DemoOptions *options, QString *message);
+
+    // "MAJOR.MINOR.PATCH"; each part may be negative, since the controller
+    // uses patch -1 for builds between releases.
+    static bool parseVersion(const QString &text, BackendVersions::Version *version);
+    static QString versionText(const BackendVersions::Version &version);
+
+    // The plug-in this build made, so the demo runs straight from the build tree.
+    static QString defaultPluginPath();
+
+    QString pluginPath = defaultPluginPath();
+    QString scenario; // a file or a built-in name; empty for the default scenario
+    bool hasBackendVersion = false;
+    BackendVersions::Version backendVersion;
+    bool hasSystemVersion = false;
+    BackendVersions::Version systemVersion;
+    QString systemType; // null when not given
+    bool observer = false;
+    QString screenshotFile;
+};
+
+#endif // DEMOOPTIONS_H

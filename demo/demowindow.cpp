@@ -1,0 +1,246 @@
+#include "demowindow.h"
+#include "demooptions.h"
+#include "logdock.h"
+#include "menubuilder.h"
+#include "simulatorlogmodel.h"
+#include "standinmodules.h"
+
+#include <backendversions.h>
+#include <iomanager.h>
+#include <menuentry.h>
+#include <moduleinterface.h>
+#include <simulatedcontroller.h>
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QTextStream>
+#include <QVBoxLayout>
+
+#include <limits>
+
+DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
+    : QMainWindow(parent)
+    , m_controller(new SimulatedController(this))
+    , m_logModel(new SimulatorLogModel(50000, this))
+    , m_logDock(new LogDock(m_logModel, this))
+    , m_standIns(new StandInModules(m_controller, this, this))
+{
+    setWindowTitle(tr("Velora demo host"));
+
+    // Registered by the host before the plug-in can: the type registry must
+    // not keep pointers into a library that is unloaded before exit.
+    qRegisterMetaType<IOManager *>("IOManager*");
+    qRegisterMetaType<BackendVersions *>("BackendVersions*");
+    qRegisterMetaType<QWidget *>("QWidget*");
+
+    // What the stand-ins did on construction is already in the controller's log.
+    for (const SimulatedController::LogEntry &entry : m_controller->log())
+        m_logModel->append(entry);
+    connect(m_controller, &SimulatedController::logged, m_logModel, &SimulatorLogModel::append);
+    connect(m_logDock, &LogDock::clearRequested, this, [this] {
+        m_controller->clearLog();
+        m_logModel->clear();
+    });
+    addDockWidget(Qt::BottomDockWidgetArea, m_logDock);
+
+    loadScenario(options);
+    loadModule(options.pluginPath, options.observer);
+    buildMenus();
+    setCentralWidget(createCentralPage(options.observer));
+    // The other modules announce themselves once the module can hear them.
+    if (module())
+        m_standIns->announce();
+
+    resize(960, 680);
+    // A failed load leaves the room to the explanation.
+    resizeDocks({ m_logDock }, { module() ? 320 : 160 }, Qt::Vertical);
+}
+
+DemoWindow::~DemoWindow()
+{
+    m_loader.unload();
+    // Children go in creation order, and the stand-ins must leave the
+    // controller's receivers before the controller goes.
+    delete m_standIns;
+}
+
+QString DemoWindow::scenarioFile(const QString &scenario)
+{
+    if (scenario.isEmpty())
+        return SimulatedController::defaultScenario();
+    if (QFileInfo::exists(scenario))
+        return scenario;
+    const QStringList builtIn = SimulatedController::builtInScenarios();
+    for (const QString &file : builtIn) {
+        if (QFileInfo(file).completeBaseName() == scenario)
+            return file;
+    }
+    return scenario;
+}
+
+void DemoWindow::closeEvent(QCloseEvent *event)
+{
+    // The module's last calls come while the parent it was given still stands.
+    m_loader.unload();
+    event->accept();
+}
+
+void DemoWindow::loadScenario(const DemoOptions &options)
+{
+    m_scenarioFile = scenarioFile(options.scenario);
+    if (!m_controller->loadScenario(m_scenarioFile, &m_scenarioErrors)
+        && m_scenarioErrors.isEmpty())
+        m_scenarioErrors << tr("%1: cannot be read").arg(m_scenarioFile);
+    for (const QString &error : qAsConst(m_scenarioErrors))
+        reportProblem(QStringLiteral("loadScenario"), error);
+
+    BackendVersions &versions = m_controller->backendVersions();
+    if (options.hasBackendVersion)
+        versions.backendVersion = options.backendVersion;
+    if (options.hasSystemVersion)
+        versions.systemVersion = options.systemVersion;
+    if (!options.systemType.isNull())
+        versions.systemType = options.systemType;
+}
+
+void DemoWindow::loadModule(const QString &pluginPath, bool observer)
+{
+    ModuleInterface *module = m_loader.load(pluginPath);
+    if (!module) {
+        reportProblem(QStringLiteral("loadPlugin"), m_loader.errorString());
+        return;
+    }
+    // The module's dialogs copy these when menuEntries() creates them.
+    IOManager *ioManager = m_controller;
+    module->setModuleProperty(
+        QStringLiteral("CommandManager"), QVariant::fromValue<IOManager *>(ioManager));
+    module->setModuleProperty(QStringLiteral("ModuleParent"), QVariant::fromValue<QWidget *>(this));
+    module->setModuleProperty(QStringLiteral("BackendVersions"),
+        QVariant::fromValue<BackendVersions *>(&m_controller->backendVersions()));
+    module->setModuleProperty(QStringLiteral("ObserverMode"), QVariant(observer));
+}
+
+void DemoWindow::buildMenus()
+{
+    const auto hostEntry = [this](const QString &text, const QString &menuTitle, int menuPosition) {
+        MenuEntry entry;
+        entry.action = new QAction(text, this);
+        entry.menuTitle = menuTitle;
+        entry.menuPosition = menuPosition;
+        return entry;
+    };
+
+    MenuEntry quit = hostEntry(tr("&Quit"), tr("&File"), std::numeric_limits<int>::min());
+    quit.action->setShortcut(QKeySequence::Quit);
+    connect(quit.action, &QAction::triggered, this, &QWidget::close);
+
+    MenuEntry configuration
+        = hostEntry(tr("Active configuration &changed"), tr("&Configuration"), 200);
+    configuration.action->setStatusTip(
+        tr("Send \"ActiveConfigurationChanged\" as the configuration module does"));
+    connect(configuration.action, &QAction::triggered, m_standIns,
+        &StandInModules::announceConfigurationChanged);
+
+    MenuEntry about = hostEntry(tr("&About"), tr("&Help"), std::numeric_limits<int>::max());
+    connect(about.action, &QAction::triggered, this, &DemoWindow::showAbout);
+
+    QList<MenuEntry> entries { quit, configuration, about };
+    if (module()) {
+        const QList<MenuEntry *> moduleEntries = module()->menuEntries();
+        for (const MenuEntry *entry : moduleEntries)
+            entries.append(*entry);
+    }
+    MenuBuilder::build(menuBar(), entries);
+}
+
+QWidget *DemoWindow::createCentralPage(bool observer)
+{
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+
+    if (!module()) {
+        auto *failure = new QGroupBox(tr("The module plug-in could not be loaded"));
+        failure->setObjectName(QStringLiteral("loadErrorPage"));
+        auto *text = new QPlainTextEdit(m_loader.errorString());
+        text->setReadOnly(true);
+        text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+        text->setMinimumHeight(text->fontMetrics().lineSpacing()
+            * (m_loader.errorString().count(QLatin1Char('\n')) + 3));
+        auto *hint = new QLabel(tr("Start the demo again with --plugin PATH to load another "
+                                   "build, or see --help."));
+        auto *failureLayout = new QVBoxLayout(failure);
+        failureLayout->addWidget(text);
+        failureLayout->addWidget(hint);
+        layout->addWidget(failure, 1);
+    }
+
+    const BackendVersions &versions = m_controller->backendVersions();
+    auto *connection = new QGroupBox(tr("Connected"));
+    connection->setObjectName(QStringLiteral("connectionPage"));
+    auto *form = new QFormLayout(connection);
+    const auto addRow = [form](const QString &label, const QString &value) {
+        auto *field = new QLabel(value);
+        field->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        form->addRow(label, field);
+    };
+    addRow(tr("Module:"),
+        module() ? tr("%1 %2").arg(module()->moduleName(), module()->moduleVersion())
+                 : tr("not loaded"));
+    addRow(tr("Plug-in file:"), m_loader.fileName());
+    const QString builtIn = QStringLiteral(":/scenarios/");
+    const QString scenario = m_scenarioFile.startsWith(builtIn)
+        ? tr("%1 (built in)").arg(QFileInfo(m_scenarioFile).completeBaseName())
+        : m_scenarioFile;
+    addRow(tr("Scenario:"),
+        m_scenarioErrors.isEmpty()
+            ? scenario
+            : tr("%1 (problems: %2, see the log)").arg(scenario).arg(m_scenarioErrors.size()));
+    addRow(tr("Controller software:"), DemoOptions::versionText(versions.backendVersion));
+    addRow(tr("Tracking system:"),
+        tr("%1, version %2")
+            .arg(versions.systemType.isEmpty() ? tr("(no type)") : versions.systemType,
+                DemoOptions::versionText(versions.systemVersion)));
+    addRow(tr("Observer mode:"), observer ? tr("on") : tr("off"));
+    layout->addWidget(connection);
+
+    if (module()) {
+        auto *hint = new QLabel(tr("Open the module's dialogs from its menus. The log below shows "
+                                   "every command and message the module exchanges with the "
+                                   "simulated controller; failures are marked red."));
+        hint->setWordWrap(true);
+        layout->addWidget(hint);
+        layout->addStretch(1);
+    }
+    return page;
+}
+
+void DemoWindow::reportProblem(const QString &operation, const QString &text)
+{
+    QTextStream(stderr) << text << '\n';
+    SimulatedController::LogEntry entry;
+    entry.operation = operation;
+    entry.text = text.section(QLatin1Char('\n'), 0, 2).simplified();
+    entry.result = 1;
+    m_logModel->append(entry);
+}
+
+void DemoWindow::showAbout()
+{
+    const QString moduleText = module()
+        ? tr("%1 %2").arg(module()->moduleName(), module()->moduleVersion())
+        : tr("no module loaded");
+    QMessageBox::about(this, tr("About the Velora demo host"),
+        tr("<p>A small host for the tracking settings module, connected to a "
+           "simulated tracking controller.</p><p>Module: %1<br>Plug-in: "
+           "%2<br>Qt %3</p>")
+            .arg(moduleText.toHtmlEscaped(), m_loader.fileName().toHtmlEscaped(),
+                QString::fromLatin1(qVersion())));
+}

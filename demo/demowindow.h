@@ -1,0 +1,58 @@
+#ifndef DEMOWINDOW_H
+#define DEMOWINDOW_H
+
+#include "moduleloader.h"
+
+#include <QMainWindow>
+#include <QStringList>
+
+class DemoOptions;
+class LogDock;
+class ModuleInterface;
+class SimulatedController;
+class SimulatorLogModel;
+class StandInModules;
+
+// The host: a simulated controller, the module loaded from its plug-in with
+// the host's services handed over, the module's menus merged into the menu
+// bar, and the controller log in a dock.
+class DemoWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit DemoWindow(const DemoOptions &options, QWidget *parent = nullptr);
+    ~DemoWindow() override;
+
+    SimulatedController *controller() const { return m_controller; }
+    SimulatorLogModel *logModel() const { return m_logModel; }
+    StandInModules *standIns() const { return m_standIns; }
+    // Null when the plug-in did not load; loadError() then says why.
+    ModuleInterface *module() const { return m_loader.module(); }
+    QString loadError() const { return m_loader.errorString(); }
+    QStringList scenarioErrors() const { return m_scenarioErrors; }
+
+    // The file for a --scenario value: a file, or the name of a built-in one.
+    static QString scenarioFile(const QString &scenario);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void loadScenario(const DemoOptions &options);
+    void loadModule(const QString &pluginPath, bool observer);
+    void buildMenus();
+    QWidget *createCentralPage(bool observer);
+    void reportProblem(const QString &operation, const QString &text);
+    void showAbout();
+
+    SimulatedController *m_controller;
+    SimulatorLogModel *m_logModel;
+    LogDock *m_logDock;
+    StandInModules *m_standIns;
+    ModuleLoader m_loader;
+    QString m_scenarioFile;
+    QStringList m_scenarioErrors;
+};
+
+#endif // DEMOWINDOW_H

@@ -1,0 +1,3 @@
+#include "notamodule.h"
+
+NotAModule::NotAModule() = default;
