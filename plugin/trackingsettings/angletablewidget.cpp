@@ -16,6 +16,8 @@ AngleTableWidget::AngleTableWidget(QWidget *parent)
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->hide();
+    // Names are one line; a long one is elided rather than making its row tall.
+    setWordWrap(false);
 }
 
 void AngleTableWidget::fill(const QList<FixedAngle> &records)

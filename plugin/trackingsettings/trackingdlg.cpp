@@ -37,6 +37,7 @@ TrackingDlg::TrackingDlg(IOManager *ioManager, QWidget *parent, BackendVersions 
     , lockIcon(QStringLiteral(":/lock.png"))
 {
     ui->setupUi(this);
+    ui->Platzhalter_unsichtbar->hide();
     updatePulseEnabled();
 
     // Before the controller is asked anything.
@@ -58,6 +59,8 @@ TrackingDlg::TrackingDlg(IOManager *ioManager, QWidget *parent, BackendVersions 
 
     for (const Axis &axis : Axes)
         ui->comboBox_5dofAxis->addItem(QLatin1String(axis.name));
+    // Unknown until the controller has been asked.
+    ui->comboBox_5dofAxis->setCurrentIndex(-1);
 }
 
 TrackingDlg::~TrackingDlg()
@@ -298,7 +301,8 @@ void TrackingDlg::on_pushButton_ok_clicked()
         if (channel.atLeast(0, 14))
             channel.setParameter(QLatin1String(AutoRestart) + QLatin1Char(' ')
                 + CommandText::yesNo(ui->checkBox_autoReStart->isChecked()));
-        sendAxis();
+        if (channel.atLeast(1, 12))
+            sendAxis();
     }
     if (pulseChanged)
         sendPulse();
