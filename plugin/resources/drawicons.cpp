@@ -101,6 +101,8 @@ void target(QPainter &p) // "24.png"
     p.drawLine(QPointF(1, 16), QPointF(31, 16));
 }
 
+// A table as the module's widgets draw it. A cell text starting with "[x]" or
+// "[ ]" gets a check box; gray rows have light text like unusable bodies.
 void table(QPainter &p, const QRect &area, const QStringList &header,
     const QList<QStringList> &rows, const QList<bool> &gray)
 {
@@ -108,46 +110,63 @@ void table(QPainter &p, const QRect &area, const QStringList &header,
     font.setPixelSize(12);
     p.setFont(font);
     const int columns = header.size();
-    const int rowHeight = area.height() / (rows.size() + 1);
-    const int columnWidth = area.width() / columns;
+    const int rowCount = rows.size() + 1;
+    const auto x = [&](int c) { return area.left() + c * (area.width() - 1) / columns; };
+    const auto y = [&](int r) { return area.top() + r * (area.height() - 1) / rowCount; };
     p.fillRect(area, Qt::white);
-    p.fillRect(QRect(area.topLeft(), QSize(area.width(), rowHeight)), QColor(230, 232, 236));
-    for (int r = 0; r < rows.size(); ++r) {
-        if (gray.value(r))
-            p.fillRect(
-                QRect(area.left(), area.top() + (r + 1) * rowHeight, area.width(), rowHeight),
-                QColor(215, 215, 215));
-    }
+    p.fillRect(QRect(area.left(), area.top(), area.width(), y(1) - area.top()),
+        QColor(230, 232, 236));
     p.setPen(QColor(160, 165, 175));
-    for (int r = 0; r <= rows.size() + 1; ++r)
-        p.drawLine(
-            area.left(), area.top() + r * rowHeight, area.right(), area.top() + r * rowHeight);
+    for (int r = 0; r <= rowCount; ++r)
+        p.drawLine(area.left(), y(r), area.right(), y(r));
     for (int c = 0; c <= columns; ++c)
-        p.drawLine(area.left() + c * columnWidth, area.top(), area.left() + c * columnWidth,
-            area.top() + (rows.size() + 1) * rowHeight);
-    p.setPen(Qt::black);
+        p.drawLine(x(c), area.top(), x(c), area.bottom());
     for (int c = 0; c < columns; ++c) {
-        const QRect cell(area.left() + c * columnWidth, area.top(), columnWidth, rowHeight);
-        p.drawText(cell, Qt::AlignCenter, header.at(c));
-        for (int r = 0; r < rows.size(); ++r)
-            p.drawText(
-                cell.translated(0, (r + 1) * rowHeight), Qt::AlignCenter, rows.at(r).value(c));
+        const QRect headerCell(x(c), y(0), x(c + 1) - x(c), y(1) - y(0));
+        p.setPen(Qt::black);
+        p.drawText(headerCell, Qt::AlignCenter, header.at(c));
+        for (int r = 0; r < rows.size(); ++r) {
+            const QRect cell(x(c), y(r + 1), x(c + 1) - x(c), y(r + 2) - y(r + 1));
+            QString text = rows.at(r).value(c);
+            const QColor ink = gray.value(r) ? QColor(Qt::lightGray) : QColor(Qt::black);
+            QRect textArea = cell.adjusted(6, 0, -4, 0);
+            if (text.startsWith("[x]") || text.startsWith("[ ]")) {
+                const QRectF box(cell.left() + 6, cell.center().y() - 5.5, 11, 11);
+                p.setPen(QColor(120, 120, 130));
+                p.setBrush(Qt::white);
+                p.drawRect(box);
+                if (text.startsWith("[x]")) {
+                    p.setPen(QPen(QColor(30, 30, 30), 1.8, Qt::SolidLine, Qt::RoundCap));
+                    p.drawLine(QPointF(box.left() + 2.5, box.center().y()),
+                        QPointF(box.left() + 4.5, box.bottom() - 2.5));
+                    p.drawLine(QPointF(box.left() + 4.5, box.bottom() - 2.5),
+                        QPointF(box.right() - 2, box.top() + 2.5));
+                }
+                p.setBrush(Qt::NoBrush);
+                text = text.mid(3);
+                textArea.setLeft(int(box.right()) + 5);
+            }
+            p.setPen(ink);
+            p.drawText(textArea, Qt::AlignVCenter | Qt::AlignLeft, text);
+        }
     }
 }
 
 void bodyTable(QPainter &p)
 {
-    table(p, QRect(0, 0, 419, 119), { "ID", "Name", "Angle X", "Angle Y", "Angle Z" },
-        { { "1", "Pointer", "0.00", "12.50", "0.00" }, { "2", "Glasses", "-5.00", "0.00", "3.25" },
+    table(p, QRect(0, 0, 460, 120), { "ID", "Name", "rx", "ry", "rz" },
+        { { "1", "Pointer", "[ ]0.00", "[x]12.50", "[ ]0.00" },
+            { "2", "Glasses", "[x]-5.00", "[ ]0.00", "[x]3.25" },
             { "3", "", "0.0", "0.0", "0.0" } },
         { false, false, true });
 }
 
 void dataDisplay(QPainter &p)
 {
-    table(p, QRect(0, 0, 419, 89), { "Body", "X [mm]", "Y [mm]", "Z [mm]", "Angles [deg]" },
-        { { "1", "102.31", "-45.08", "1210.77", "0.00 12.50 0.00" },
-            { "2", "-310.62", "12.94", "998.40", "-5.00 0.00 3.25" } },
+    table(p, QRect(0, 0, 460, 90),
+        { "Body", "x [mm]", "y [mm]", "z [mm]", "rx [deg]", "ry [deg]", "rz [deg]" },
+        { { "1", "102.31", "-45.08", "1210.77", "3.17", "12.50", "-41.60" },
+            { "2", "-310.62", "12.94", "998.40", "-5.00", "-17.82", "3.25" } },
         {});
 }
 
@@ -183,7 +202,7 @@ int main(int argc, char **argv)
     ok &= save(dir, "118.png", IconSize, IconSize, deletion);
     ok &= save(dir, "19.png", IconSize, IconSize, search);
     ok &= save(dir, "24.png", IconSize, IconSize, target);
-    ok &= save(dir, "bodytable.png", 420, 120, bodyTable);
-    ok &= save(dir, "datadisplay.png", 420, 90, dataDisplay);
+    ok &= save(dir, "bodytable.png", 460, 120, bodyTable);
+    ok &= save(dir, "datadisplay.png", 460, 90, dataDisplay);
     return ok ? 0 : 1;
 }
