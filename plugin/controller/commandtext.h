@@ -39,6 +39,18 @@ public:
     static QString withoutDoubleQuotes(QString text) { return text.remove(QLatin1Char('"')); }
     static QString withoutSingleQuotes(QString text) { return text.remove(QLatin1Char('\'')); }
 
+    // Filter presets whose strength, prediction and mode the body itself
+    // holds ("preset6d_std_custom"); a hybrid one has no strength of its own.
+    static bool isCustomPreset(const QString &presetId)
+    {
+        return presetId.contains(QLatin1String("preset6d_"))
+            && presetId.contains(QLatin1String("_custom"));
+    }
+    static bool isHybridPreset(const QString &presetId)
+    {
+        return presetId.contains(QLatin1String("hybrid"));
+    }
+
     // Meta commands succeed only with exactly this reply.
     static bool isMetaOk(const QString &reply) { return reply == QLatin1String("velora2 ok"); }
 
