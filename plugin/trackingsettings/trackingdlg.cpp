@@ -117,10 +117,9 @@ void TrackingDlg::applyLock()
     } else {
         setWindowIcon(parentWidget() ? parentWidget()->windowIcon() : QIcon());
     }
-    for (QWidget *widget :
-        { static_cast<QWidget *>(ui->checkBox_force3d), static_cast<QWidget *>(ui->pushButton_ok),
-            static_cast<QWidget *>(ui->pushButton_advanced) })
-        widget->setEnabled(!locked);
+    ui->checkBox_force3d->setEnabled(!locked);
+    ui->pushButton_ok->setEnabled(!locked);
+    ui->pushButton_advanced->setEnabled(!locked);
     if (locked) {
         ui->checkBox_autoReStart->setEnabled(false);
         ui->label_setAxis5dof->setEnabled(false);

@@ -35,6 +35,15 @@ QString TrackingPreferences::fileName() const
 
 QString TrackingPreferences::read()
 {
+    const QString error = readFile();
+    // Until the dialog opens again, the file tells what its last opening
+    // showed; a session that never opens it keeps that.
+    m_advancedShown = m_fixedAngleVisible;
+    return error;
+}
+
+QString TrackingPreferences::readFile()
+{
     const QString name = fileName();
     // A first start has no file; that is no error.
     if (!QFile::exists(name))

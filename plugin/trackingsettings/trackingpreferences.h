@@ -31,6 +31,8 @@ public:
     void setAdvancedShown(bool shown) { m_advancedShown = shown; }
 
 private:
+    QString readFile();
+
     QString m_directory;
     bool m_fixedAngleVisible = false;
     bool m_autoRestartVisible = false;
