@@ -3,12 +3,11 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 
 // The dialogs keep their preferences under the home directory: these tests
-// run with a home of their own and never see the user's.
+// run with a home of their own, set before QApplication reads it.
 #define TRACKING_TEST_MAIN_WITH_TEMPORARY_HOME(TestClass)                                          \
     int main(int argc, char **argv)                                                                \
     {                                                                                              \
@@ -18,28 +17,24 @@
         qputenv("HOME", QFile::encodeName(home.path()));                                           \
         QApplication app(argc, argv);                                                              \
         TestClass test;                                                                            \
-        QTEST_SET_MAIN_SOURCE_PATH                                                                 \
         return QTest::qExec(&test, argc, argv);                                                    \
     }
 
-// Where the preferences of module version v3.0.5 live.
 inline QString preferencesDirectory()
 {
-    return QDir::homePath()
-        + QStringLiteral("/.ZEM/VELORA4/modules/trackingsettings/v3.0.5/config");
+    return QDir::homePath() + "/.ZEM/VELORA4/modules/trackingsettings/v3.0.5/config";
 }
 
 inline QString preferencesFile()
 {
-    return preferencesDirectory() + QStringLiteral("/trackingsettings-preferences.xml");
+    return preferencesDirectory() + "/trackingsettings-preferences.xml";
 }
 
 inline bool writePreferences(const QByteArray &content)
 {
     QDir().mkpath(preferencesDirectory());
     QFile file(preferencesFile());
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate)
-        && file.write(content) == content.size();
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
 inline QByteArray readPreferences()
@@ -50,8 +45,8 @@ inline QByteArray readPreferences()
 
 inline void removePreferences()
 {
-    QDir(QDir::homePath() + QStringLiteral("/.ZEM")).removeRecursively();
-    QFile::remove(QDir::homePath() + QStringLiteral("/.ZEM"));
+    QDir(QDir::homePath() + "/.ZEM").removeRecursively();
+    QFile::remove(QDir::homePath() + "/.ZEM");
 }
 
 #endif // TEMPORARYHOME_H
