@@ -300,15 +300,9 @@ bool BodyOperations::switchBodies(
 }
 
 bool BodyOperations::calibrateFromTarget(const BodyTypeEntry &entry, const QString &type, int index,
-    const QString &targetName, const QString &bodyName, QList<int> *affected) const
+    const QString &targetName, QList<int> *affected) const
 {
     if (!entry.contains(index))
-        return false;
-    if (!bodyName.isEmpty()
-        && QMessageBox::warning(m_parent, tr("Warning"),
-               tr("Overwrite body calibration data of %1?").arg(bodyName),
-               QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel)
-            != QMessageBox::Ok)
         return false;
 
     // A target calibrates one body of a type: free the others that use it.

@@ -31,12 +31,11 @@ public:
     bool switchBodies(
         const BodyTypeEntry &entry, const QString &type, int indexA, int indexB) const;
 
-    // Calibrates the body from a library target after asking whether its
-    // name may be overwritten (no question for an unnamed body). Other bodies
-    // of the type that used the target are freed first; affected gets every
-    // body that changed. False when the user refused or the controller failed.
+    // Calibrates the body from a library target. Other bodies of the type
+    // that used the target are freed first; affected gets every body that
+    // changed.
     bool calibrateFromTarget(const BodyTypeEntry &entry, const QString &type, int index,
-        const QString &targetName, const QString &bodyName, QList<int> *affected) const;
+        const QString &targetName, QList<int> *affected) const;
 
     // A Yes/No warning whose default is No.
     bool ask(const QString &question) const;

@@ -427,8 +427,12 @@ void BodyTypeAdministrationTab::deleteFromTable(const QString &type, int index)
 void BodyTypeAdministrationTab::setSearchWidgets(const SearchWidgets &widgets)
 {
     search = widgets;
-    if (search.targetTable)
-        TargetStatus::setUpTable(search.targetTable);
+    if (!search.targetTable)
+        return;
+    TargetStatus::setUpTable(search.targetTable);
+    // Choosing a target may make Select usable.
+    connect(search.targetTable, &QTableWidget::itemSelectionChanged, this,
+        &BodyTypeAdministrationTab::applySelectionRules);
 }
 
 void BodyTypeAdministrationTab::startStatusTimer()
@@ -466,6 +470,12 @@ void BodyTypeAdministrationTab::about_to_exit()
 void BodyTypeAdministrationTab::applySelectionRules()
 {
     const BodyTypeEntry *e = entry(search.bodyType);
+    applySelectDeselectRules(e ? e->columnOf(NameColumn) : -1);
+}
+
+void BodyTypeAdministrationTab::applySelectDeselectRules(int deselectColumn)
+{
+    const BodyTypeEntry *e = entry(search.bodyType);
     QTableWidget *bodies = e ? e->table : nullptr;
     const bool idle = search.start && search.start->isEnabled();
     const int bodyRow = bodies ? bodies->currentRow() : -1;
@@ -474,7 +484,7 @@ void BodyTypeAdministrationTab::applySelectionRules()
         search.select->setEnabled(idle && bodyRow >= 0 && targetRow >= 0);
     if (search.deselect) {
         const QTableWidgetItem *name
-            = bodyRow >= 0 ? bodies->item(bodyRow, e->columnOf(NameColumn)) : nullptr;
+            = bodyRow >= 0 ? bodies->item(bodyRow, deselectColumn) : nullptr;
         search.deselect->setEnabled(idle && name && !name->text().isEmpty());
     }
 }
@@ -518,7 +528,10 @@ void BodyTypeAdministrationTab::on_start_search()
 
     search.start->setEnabled(false);
     search.stop->setEnabled(true);
-    applySelectionRules();
+    if (search.deselectColumnAtStart >= 0)
+        applySelectDeselectRules(search.deselectColumnAtStart);
+    else
+        applySelectionRules();
     setSearchControlsEnabled(false);
     stopMeasurementTimer();
     stopStatusTimer();
@@ -628,7 +641,16 @@ void BodyTypeAdministrationTab::updateTrackedAndAcceptStatus_tl()
     search.targetTable->setCurrentCell(targetRow, 0);
 }
 
-bool BodyTypeAdministrationTab::assignTarget(int bodyRow, int targetRow, const QString &bodyName)
+bool BodyTypeAdministrationTab::confirmOverwrite(const QString &bodyName)
+{
+    return bodyName.isEmpty()
+        || QMessageBox::warning(this, tr("Warning"),
+               tr("Overwrite body calibration data of %1?").arg(bodyName),
+               QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel)
+        == QMessageBox::Ok;
+}
+
+bool BodyTypeAdministrationTab::assignTarget(int bodyRow, int targetRow)
 {
     BodyTypeEntry *e = entry(search.bodyType);
     const QTableWidgetItem *idItem = search.targetTable
@@ -642,9 +664,7 @@ bool BodyTypeAdministrationTab::assignTarget(int bodyRow, int targetRow, const Q
 
     QList<int> affected;
     const bool assigned
-        = operations.calibrateFromTarget(*e, type, bodyRow, target->name, bodyName, &affected);
-    if (affected.isEmpty()) // the user kept the body's calibration
-        return false;
+        = operations.calibrateFromTarget(*e, type, bodyRow, target->name, &affected);
     for (int i : qAsConst(affected))
         loadBody(type, i);
     targetStatus.refreshCalibrated(target->id);
@@ -657,4 +677,11 @@ void BodyTypeAdministrationTab::removeTarget(int bodyRow)
     const BodyTypeEntry *e = entry(search.bodyType);
     if (e && e->contains(bodyRow))
         deleteFromTable(search.bodyType, bodyRow);
+}
+
+void BodyTypeAdministrationTab::refreshTargetStatus(const QString &type)
+{
+    targetStatus.refreshCalibratedOfGroup(type, QString());
+    if (search.targetTable)
+        fillTargetTable(search.categoryCombo ? search.categoryCombo->currentText() : QString());
 }

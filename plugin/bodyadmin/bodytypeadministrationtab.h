@@ -45,6 +45,9 @@ public:
         QTableWidget *targetTable = nullptr;
         QComboBox *categoryCombo = nullptr;
         QString bodyType; // the type whose bodies get targets assigned
+        // The body-table column whose text the Deselect rule tests when a
+        // search starts; -1 for the name column. Some tabs test another one.
+        int deselectColumnAtStart = -1;
     };
 
     static constexpr int MeasurementInterval = 600;
@@ -71,6 +74,13 @@ public:
     QString selectionType() const { return selectedType; }
     int selectionIndex() const { return selectedIndex; }
     bool isSearching() const { return measurementTimer.isActive(); }
+    // Multi-user Gripwands are in effect (only the Gripwand tab knows).
+    virtual bool isMultiUserActive() { return false; }
+    // Select and Deselect follow the current rows while no search runs.
+    virtual void applySelectionRules();
+    // Reads the used state of the type's library targets again and refills
+    // the target table, after another module may have calibrated a body.
+    void refreshTargetStatus(const QString &type);
     int foundTargetCount() const { return foundTargets; }
 
 public slots:
@@ -128,14 +138,16 @@ protected:
     void on_stop_search();
     void fillTargetTable(const QString &group);
     void announceFoundTargets(int count);
-    bool assignTarget(int bodyRow, int targetRow, const QString &bodyName);
+    // Asks before a named body's calibration is overwritten; no question for
+    // an unnamed body.
+    bool confirmOverwrite(const QString &bodyName);
+    bool assignTarget(int bodyRow, int targetRow);
     void removeTarget(int bodyRow);
     void startStatusTimer();
     void stopStatusTimer();
     void startMeasurementTimer();
     void stopMeasurementTimer();
-    // Select and Deselect follow the current rows while no search runs.
-    virtual void applySelectionRules();
+    void applySelectDeselectRules(int deselectColumn);
     // Controls a tab locks while a search runs.
     virtual void setSearchControlsEnabled(bool enabled);
 

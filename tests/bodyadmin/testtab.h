@@ -73,7 +73,7 @@ public:
     void fillTargets(const QString &group) { fillTargetTable(group); }
     bool assign(int body, int target, const QString &name)
     {
-        return assignTarget(body, target, name);
+        return confirmOverwrite(name) && assignTarget(body, target);
     }
     void selectBody(const QString &type, int index)
     {

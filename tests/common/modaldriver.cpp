@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QMessageBox>
 
 ModalDriver::ModalDriver(QObject *parent)
@@ -63,11 +64,23 @@ void ModalDriver::poll()
         seen.informativeText = box->informativeText();
     }
     m_seen.append(seen);
+    // The same dialog may come back (a reopened dialog): it counts as new
+    // once it has been hidden.
     m_lastHandled = modal;
+    modal->installEventFilter(this);
     const Action action = m_steps.takeFirst();
     action(modal);
     if (m_steps.isEmpty())
         m_timer.stop();
+}
+
+bool ModalDriver::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Hide && watched == m_lastHandled) {
+        watched->removeEventFilter(this);
+        m_lastHandled = nullptr;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void ModalDriver::closeAllModals()

@@ -53,6 +53,9 @@ public:
     // leaves none behind.
     static QStringList topLevelWidgetNames();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void poll();
 

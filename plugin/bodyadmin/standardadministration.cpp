@@ -1,0 +1,418 @@
+#include "standardadministration.h"
+
+#include "editdelegate.h"
+#include "filterdialog.h"
+#include "handoverrequest.h"
+#include "targetlibrary.h"
+#include "ui_standardadministration.h"
+
+#include <QHeaderView>
+#include <QMessageBox>
+
+namespace
+{
+
+const QString Standard = QStringLiteral("standard");
+const QString MeasurementToolReference = QStringLiteral("measurementtool_reference");
+constexpr int DefaultMaximum = 4;
+
+} // namespace
+
+StandardAdministration::StandardAdministration(IOManager *ioManager, QWidget *parent,
+    BackendVersions *backendVersions, const QString & /*text*/, Targetlibrary *targetLibrary)
+    : BodyTypeAdministrationTab(ioManager, parent, backendVersions, targetLibrary)
+    , ui(new Ui::StandardAdministrationClass)
+    , delegate(new EditDelegate(this))
+    , dialog(parent)
+{
+    ui->setupUi(this);
+    setWhatsThis(tr("Administration of standard bodies"));
+
+    BodyTypeEntry &standard
+        = addBodyType(Standard, ui->tableWidget_standard, ui->spinBox_standard_bodies,
+            { IdColumn, ActiveColumn, ReferenceColumn, NameColumn, ExtraColumn, ExtraColumn,
+                CalibrationColumn, FilterColumn, DeleteColumn, ResetColumn },
+            QStringLiteral("%1"));
+    filterAvailable = standard.filterAvailable;
+
+    QTableWidget *table = ui->tableWidget_standard;
+    table->setRowCount(0);
+    table->setColumnCount(10);
+    table->setHorizontalHeaderLabels({ tr("ID"), tr("Active"), tr("Reference"), tr("Name"),
+        tr("Model"), tr("Device ID"), tr("Calibration"), tr("Filter"), tr("Delete"), tr("Reset") });
+    table->horizontalHeader()->setSectionsClickable(false);
+    table->verticalHeader()->hide();
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setItemDelegateForColumn(NameCol, delegate);
+    table->setColumnHidden(FilterCol, !filterAvailable);
+    reloadBodies(Standard);
+
+    SearchWidgets widgets;
+    widgets.start = ui->pushButton_start;
+    widgets.stop = ui->pushButton_stop;
+    widgets.select = ui->pushButton_select;
+    widgets.deselect = ui->pushButton_deselect;
+    widgets.progressBar = ui->progressBar;
+    widgets.resultLabel = ui->label_targetlibrary;
+    widgets.targetTable = ui->tableWidget_targetlibrary;
+    widgets.categoryCombo = ui->comboBox_filter;
+    widgets.bodyType = Standard;
+    // Kept: at the start of a search the Deselect rule looks at "Model".
+    widgets.deselectColumnAtStart = ModelCol;
+    setSearchWidgets(widgets);
+    ui->pushButton_stop->setEnabled(false);
+
+    fillCategories();
+    fillTargetTable(ui->comboBox_filter->currentText());
+    targetRow = ui->tableWidget_targetlibrary->currentRow();
+    foundTargets = 0;
+}
+
+StandardAdministration::~StandardAdministration()
+{
+    delete ui;
+}
+
+QString StandardAdministration::tabTitle() const
+{
+    return tr("&Standard");
+}
+
+bool StandardAdministration::isTypeAvailable() const
+{
+    return true;
+}
+
+int StandardAdministration::currentRow() const
+{
+    return ui->tableWidget_standard->currentRow();
+}
+
+QString StandardAdministration::bodyName(int row) const
+{
+    const QTableWidgetItem *item = ui->tableWidget_standard->item(row, NameCol);
+    return item ? item->text() : QString();
+}
+
+void StandardAdministration::fillCategories()
+{
+    const QSignalBlocker blocker(ui->comboBox_filter);
+    ui->comboBox_filter->clear();
+    ui->comboBox_filter->addItem(TargetStatus::FoundTargets);
+    ui->comboBox_filter->addItems(targetStatus.categories(Standard));
+}
+
+// Number of bodies and the view.
+
+int StandardAdministration::maxNumberOfBodies(const QString &btype)
+{
+    if (btype != Standard)
+        return 0;
+    int maximum = DefaultMaximum;
+    if (channel.getInt(QStringLiteral("standard max_number_of_bodies"), &maximum) != 0) {
+        channel.report(tr("Error: Unable to get max number of %1 bodies").arg(btype));
+        maximum = DefaultMaximum;
+    }
+    return maximum;
+}
+
+void StandardAdministration::setNumberOfBodies(const QString &btype, int count)
+{
+    if (btype != Standard)
+        return;
+    if (channel.setParameter(QStringLiteral("standard number_of_bodies %1").arg(count)) != 0)
+        channel.report(tr("Error: Unable to set number of %1 bodies to %2").arg(btype).arg(count));
+}
+
+void StandardAdministration::updateColumnsAndStatus()
+{
+    const BodyTypeEntry *standard = entry(Standard);
+    const bool sensors = standard
+        && std::any_of(standard->bodies.cbegin(), standard->bodies.cend(),
+            [](const BodyRecord &body) { return body.hasInertialSensor(); });
+    ui->tableWidget_standard->setColumnHidden(ModelCol, !sensors);
+    ui->tableWidget_standard->setColumnHidden(DeviceCol, !sensors);
+
+    QSpinBox *spinBox = ui->spinBox_standard_bodies;
+    ui->label_error->setText(spinBox->value() >= spinBox->maximum()
+            ? tr("<b><font color=red>Max. number of bodies is reached!</font></b>")
+            : QString());
+    emit selection_changed();
+}
+
+void StandardAdministration::updateMoveButtons()
+{
+    const QList<QTableWidgetItem *> selected = ui->tableWidget_standard->selectedItems();
+    const int row = selected.isEmpty() ? -1 : selected.first()->row();
+    ui->pushButton_up->setEnabled(row > 0);
+    ui->pushButton_down->setEnabled(row >= 0 && row < ui->tableWidget_standard->rowCount() - 1);
+}
+
+void StandardAdministration::updateView()
+{
+    updateColumnsAndStatus();
+    updateMoveButtons();
+}
+
+void StandardAdministration::resizeEvent(QResizeEvent *event)
+{
+    QHeaderView *header = ui->tableWidget_standard->horizontalHeader();
+    header->setStretchLastSection(false);
+    for (int column = 0; column < header->count(); ++column)
+        header->setSectionResizeMode(
+            column, column == NameCol ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    QWidget::resizeEvent(event);
+}
+
+void StandardAdministration::update_tab()
+{
+    QTableWidget *bodies = ui->tableWidget_standard;
+    QTableWidget *targets = ui->tableWidget_targetlibrary;
+    assignBodyRow = qMax(bodies->currentRow(), 0);
+    const int keptTargetRow = targets->currentRow();
+    fillTargetTable(ui->comboBox_filter->currentText());
+    selectedType = Standard;
+    selectedIndex = assignBodyRow;
+    BodyTypeAdministrationTab::update_tab();
+
+    if (assignBodyRow < bodies->rowCount())
+        bodies->setCurrentCell(assignBodyRow, 0);
+    if (keptTargetRow >= 0 && keptTargetRow < targets->rowCount())
+        targets->setCurrentCell(keptTargetRow, 0);
+    ui->progressBar->setValue(0);
+    ui->pushButton_stop->setEnabled(false);
+    ui->label_targetlibrary->clear();
+    ui->pushButton_filter->setEnabled(canFilterSelected());
+}
+
+// Moving bodies.
+
+void StandardAdministration::moveBody(int step)
+{
+    const QList<QTableWidgetItem *> selected = ui->tableWidget_standard->selectedItems();
+    if (selected.isEmpty())
+        return;
+    const int row = selected.first()->row();
+    const int target = row + step;
+    switchBodies(Standard, row, target);
+    ui->tableWidget_standard->selectRow(target);
+    selectedIndex = target;
+    updateColumnsAndStatus();
+    emit BodyTypeAdministrationTab::selection_changed(selectedType, target);
+}
+
+void StandardAdministration::on_pushButton_up_clicked()
+{
+    moveBody(-1);
+}
+
+void StandardAdministration::on_pushButton_down_clicked()
+{
+    moveBody(1);
+}
+
+void StandardAdministration::on_tableWidget_standard_itemSelectionChanged()
+{
+    updateMoveButtons();
+    applySelectionRules();
+    ui->pushButton_filter->setEnabled(!isSearching() && canFilterSelected());
+}
+
+void StandardAdministration::applySelectionRules()
+{
+    BodyTypeAdministrationTab::applySelectionRules();
+}
+
+// Activation with the reference question.
+
+void StandardAdministration::setBodyActive(const QString &btype, int index, bool active)
+{
+    if (active || btype != Standard) {
+        BodyTypeAdministrationTab::setBodyActive(btype, index, active);
+        if (btype == Standard)
+            updateColumnsAndStatus();
+        return;
+    }
+    int referenceRow = -1;
+    for (int row = 0; row < ui->tableWidget_standard->rowCount(); ++row) {
+        const QTableWidgetItem *item = ui->tableWidget_standard->item(row, ReferenceCol);
+        if (item && item->checkState() == Qt::Checked) {
+            referenceRow = row;
+            break;
+        }
+    }
+    if (index == referenceRow) {
+        QMessageBox question(QMessageBox::Warning, tr("Warning"),
+            tr("After deactivating the reference target,\nall targets will not "
+               "be tracked."),
+            QMessageBox::Yes | QMessageBox::No, this);
+        question.setInformativeText(tr("Continue?"));
+        question.setDefaultButton(QMessageBox::No);
+        if (question.exec() != QMessageBox::Yes) {
+            reloadBodies(Standard);
+            updateView();
+            return;
+        }
+    }
+    BodyTypeAdministrationTab::setBodyActive(btype, index, active);
+    updateColumnsAndStatus();
+}
+
+void StandardAdministration::updateExtraColumn(
+    const QString &btype, int index, int column, QTableWidgetItem *item)
+{
+    const BodyTypeEntry *standard = entry(Standard);
+    if (btype != Standard || (column != ModelCol && column != DeviceCol) || !standard
+        || !standard->contains(index))
+        return;
+    const QString sensor = standard->bodies.at(index).inertialSensor;
+    if (sensor.isEmpty())
+        return;
+    const QStringList words = sensor.split(QLatin1Char(' '));
+    if (column == ModelCol) {
+        const QString model = words.mid(0, 2).join(QLatin1Char(' '));
+        item->setText(CommandText::withoutDoubleQuotes(
+            channel.stringOf(QStringLiteral("inertial sensor_model_desc %1").arg(model))));
+    } else {
+        item->setText(CommandText::withoutSingleQuotes(words.value(2)));
+    }
+}
+
+void StandardAdministration::ON_activeConfigurationChanged()
+{
+    if (!channel.atLeast(1, 12) || locked)
+        return;
+    QString filter;
+    if (channel.getString(QStringLiteral("standard filter_bodies"), &filter) != 0) {
+        channel.report(tr("Error: Unable to get global filter6d status of standard bodies"));
+        return;
+    }
+    if (filter == CommandText::no()
+        && channel.setParameter(QStringLiteral("standard filter_bodies yes")) != 0)
+        channel.report(tr("Error: Unable to set global filter6d status of standard bodies"));
+}
+
+// Target assignment.
+
+bool StandardAdministration::resolveReferenceConflict(const QString &shortName)
+{
+    if (shortName.isEmpty())
+        return true;
+    int references = 0;
+    channel.getInt(QStringLiteral("measurementtool number_of_references"), &references);
+    for (int i = 1; i <= references; ++i) {
+        QString name;
+        if (channel.getString(QStringLiteral("body targetlib_name %1 %2")
+                                  .arg(MeasurementToolReference, CommandText::bodyId(i)),
+                &name)
+                != 0
+            || name != shortName)
+            continue;
+        QMessageBox question(QMessageBox::Warning, tr("Warning"),
+            tr("This target is already calibrated as Measurement Tool Reference MR%1.").arg(i),
+            QMessageBox::Ok | QMessageBox::Cancel, this);
+        question.setInformativeText(tr("Delete the Measurement Tool Reference MR%1?").arg(i));
+        question.setDefaultButton(QMessageBox::Cancel);
+        if (question.exec() != QMessageBox::Ok)
+            return false;
+        const QString body = MeasurementToolReference + QLatin1Char(' ') + CommandText::bodyId(i);
+        channel.setParameter(QStringLiteral("body number_of_marker %1 0").arg(body));
+        channel.setParameter(
+            QStringLiteral("body desc %1 %2").arg(body, CommandText::quoted(QString())));
+        return true;
+    }
+    return true;
+}
+
+void StandardAdministration::warnIfBendable(const QString &targetId)
+{
+    const QString category = targetLibrary ? targetLibrary->groupOf(targetId) : QString();
+    if (category != QLatin1String("Glasses Target") && category != QLatin1String("HMD Target"))
+        return;
+    QMessageBox::warning(this, tr("Warning"),
+        tr("%1 can bend\ntherefore a re-calibration is strongly recommended!")
+                .arg(targetLibrary->descriptionOf(targetId))
+            + tr("\n\n(To avoid any changes of the geometry\nmount the target to "
+                 "the device prior re-calibration)"),
+        QMessageBox::Ok);
+}
+
+void StandardAdministration::on_pushButton_select_clicked()
+{
+    QTableWidget *targets = ui->tableWidget_targetlibrary;
+    if (ui->tableWidget_standard->currentRow() < 0)
+        return;
+    assignBodyRow = ui->tableWidget_standard->currentRow();
+    assignTargetRow = qMax(targets->currentRow(), 0);
+    const QTableWidgetItem *idItem = targets->item(assignTargetRow, TargetStatus::IdColumn);
+    const QTableWidgetItem *shortName
+        = targets->item(assignTargetRow, TargetStatus::ShortNameColumn);
+    const QString targetId = idItem ? idItem->text() : QString();
+
+    if (!confirmOverwrite(bodyName(assignBodyRow))
+        || !resolveReferenceConflict(shortName ? shortName->text() : QString()))
+        return;
+    assignTarget(assignBodyRow, assignTargetRow);
+    update_tab();
+    warnIfBendable(targetId);
+}
+
+void StandardAdministration::on_pushButton_deselect_clicked()
+{
+    const int row = ui->tableWidget_standard->currentRow();
+    if (row < 0)
+        return;
+    removeTarget(row);
+    update_tab();
+}
+
+void StandardAdministration::on_pushButton_customCalibration_clicked()
+{
+    const int row = ui->tableWidget_standard->currentRow();
+    if (row < 0)
+        return;
+    if (dialog)
+        dialog->hide();
+    HandOverRequest::customCalibration(Standard, row).send(channel);
+}
+
+void StandardAdministration::on_pushButton_filter_clicked()
+{
+    {
+        FilterDialog filter(ioManager, this, backendVersions);
+        filter.update_and_exec(0, ui->tableWidget_standard->currentRow());
+    }
+    update_tab();
+}
+
+void StandardAdministration::on_comboBox_filter_currentIndexChanged(const QString &group)
+{
+    targetStatus.refreshCalibratedOfGroup(Standard, group);
+    fillTargetTable(group);
+    applySelectionRules();
+}
+
+// Target search.
+
+void StandardAdministration::on_pushButton_start_clicked()
+{
+    if (ui->comboBox_filter->currentText() != TargetStatus::FoundTargets)
+        ui->comboBox_filter->setCurrentIndex(
+            ui->comboBox_filter->findText(TargetStatus::FoundTargets));
+    on_start_search();
+}
+
+void StandardAdministration::on_pushButton_stop_clicked()
+{
+    on_stop_search();
+}
+
+void StandardAdministration::setSearchControlsEnabled(bool enabled)
+{
+    ui->spinBox_standard_bodies->setEnabled(enabled);
+    ui->pushButton_filter->setEnabled(enabled);
+    ui->pushButton_customCalibration->setEnabled(enabled);
+    ui->comboBox_filter->setEnabled(enabled);
+}
