@@ -1,9 +1,12 @@
 #include "bodytypeadministrationtab.h"
 
+#include "editdelegate.h"
+#include "handoverrequest.h"
 #include "target.h"
 #include "targetlibrary.h"
 
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -32,12 +35,13 @@ BodyTypeAdministrationTab::BodyTypeAdministrationTab(IOManager *ioManager, QWidg
     , operations(channel, this)
     , targetStatus(channel, targetLibrary)
     , tableFiller(channel)
+    , targetSearch(new TargetSearch(this, channel, targetStatus))
+    , dialog(parent)
+    , delegate(new EditDelegate(this))
 {
-    measurementTimer.setInterval(MeasurementInterval);
-    statusTimer.setInterval(StatusInterval);
-    connect(
-        &measurementTimer, &QTimer::timeout, this, &BodyTypeAdministrationTab::doMeasurement_tl);
-    connect(&statusTimer, &QTimer::timeout, this,
+    connect(targetSearch->measurementTimer(), &QTimer::timeout, this,
+        &BodyTypeAdministrationTab::doMeasurement_tl);
+    connect(targetSearch->statusTimer(), &QTimer::timeout, this,
         &BodyTypeAdministrationTab::updateTrackedAndAcceptStatus_tl);
 }
 
@@ -422,70 +426,53 @@ void BodyTypeAdministrationTab::deleteFromTable(const QString &type, int index)
         targetStatus.refreshCalibrated(targetLibrary->idOfName(name));
 }
 
-// Target search.
+// Target search and assignment.
 
-void BodyTypeAdministrationTab::setSearchWidgets(const SearchWidgets &widgets)
+void BodyTypeAdministrationTab::setSearchWidgets(const TargetSearch::Widgets &widgets)
 {
-    search = widgets;
-    if (!search.targetTable)
-        return;
-    TargetStatus::setUpTable(search.targetTable);
-    // Choosing a target may make Select usable.
-    connect(search.targetTable, &QTableWidget::itemSelectionChanged, this,
-        &BodyTypeAdministrationTab::applySelectionRules);
-}
-
-void BodyTypeAdministrationTab::startStatusTimer()
-{
-    statusTimer.start(StatusInterval);
-    statusTimerId = statusTimer.timerId();
-}
-
-void BodyTypeAdministrationTab::stopStatusTimer()
-{
-    statusTimer.stop();
-    statusTimerId = -1;
-}
-
-void BodyTypeAdministrationTab::startMeasurementTimer()
-{
-    measurementTimer.start(MeasurementInterval);
-    measurementTimerId = measurementTimer.timerId();
-}
-
-void BodyTypeAdministrationTab::stopMeasurementTimer()
-{
-    measurementTimer.stop();
-    measurementTimerId = -1;
+    targetSearch->setWidgets(widgets);
+    if (widgets.targetTable)
+        // Choosing a target may make Select usable.
+        connect(widgets.targetTable, &QTableWidget::itemSelectionChanged, this,
+            &BodyTypeAdministrationTab::applySelectionRules);
 }
 
 void BodyTypeAdministrationTab::about_to_exit()
 {
-    if (measurementTimerId != -1)
-        stopMeasurementTimer();
-    if (statusTimerId != -1)
-        stopStatusTimer();
+    targetSearch->stopTimers();
+}
+
+void BodyTypeAdministrationTab::doMeasurement_tl()
+{
+    targetSearch->measurementStep();
+}
+
+void BodyTypeAdministrationTab::updateTrackedAndAcceptStatus_tl()
+{
+    targetSearch->statusStep();
 }
 
 void BodyTypeAdministrationTab::applySelectionRules()
 {
-    const BodyTypeEntry *e = entry(search.bodyType);
-    applySelectDeselectRules(e ? e->columnOf(NameColumn) : -1);
+    applySelectDeselectRules(-1);
 }
 
 void BodyTypeAdministrationTab::applySelectDeselectRules(int deselectColumn)
 {
-    const BodyTypeEntry *e = entry(search.bodyType);
+    const TargetSearch::Widgets &w = targetSearch->widgets();
+    const BodyTypeEntry *e = entry(w.bodyType);
     QTableWidget *bodies = e ? e->table : nullptr;
-    const bool idle = search.start && search.start->isEnabled();
+    if (deselectColumn < 0 && e)
+        deselectColumn = e->columnOf(NameColumn);
+    const bool idle = w.start && w.start->isEnabled();
     const int bodyRow = bodies ? bodies->currentRow() : -1;
-    const int targetRow = search.targetTable ? search.targetTable->currentRow() : -1;
-    if (search.select)
-        search.select->setEnabled(idle && bodyRow >= 0 && targetRow >= 0);
-    if (search.deselect) {
+    const int targetRow = w.targetTable ? w.targetTable->currentRow() : -1;
+    if (w.select)
+        w.select->setEnabled(idle && bodyRow >= 0 && targetRow >= 0);
+    if (w.deselect) {
         const QTableWidgetItem *name
             = bodyRow >= 0 ? bodies->item(bodyRow, deselectColumn) : nullptr;
-        search.deselect->setEnabled(idle && name && !name->text().isEmpty());
+        w.deselect->setEnabled(idle && name && !name->text().isEmpty());
     }
 }
 
@@ -493,152 +480,36 @@ void BodyTypeAdministrationTab::setSearchControlsEnabled(bool /*enabled*/) { }
 
 void BodyTypeAdministrationTab::fillTargetTable(const QString &group)
 {
-    if (search.targetTable)
-        targetStatus.fillTable(search.targetTable, search.bodyType, group);
+    targetSearch->fillTargetTable(group);
 }
 
-void BodyTypeAdministrationTab::announceFoundTargets(int count)
+bool BodyTypeAdministrationTab::resolveTargetConflict(const QString & /*shortName*/)
 {
-    QString text;
-    if (count < 1)
-        text = tr("No targets could be identified in library");
-    else if (count == 1)
-        text = tr("One target could be identified in library");
-    else
-        text = tr("%1 targets could be identified in library").arg(count);
-    QMessageBox::information(this, tr("VELORA4"), text, QMessageBox::Ok);
+    return true;
 }
 
-void BodyTypeAdministrationTab::on_start_search()
+void BodyTypeAdministrationTab::targetAssigned(const QString & /*targetId*/) { }
+
+void BodyTypeAdministrationTab::selectTarget(int bodyRow, int targetRow, const QString &bodyName)
 {
-    const QString refused = tr("Error: Unable to start target library calibration");
-    if (!CommandText::isYes(channel.stringOf(QStringLiteral("cal available targetlib")))) {
-        channel.report(refused + tr(". Calibration type is not available"));
+    const QTableWidget *targets = targetSearch->widgets().targetTable;
+    const QTableWidgetItem *id
+        = targets ? targets->item(targetRow, TargetStatus::IdColumn) : nullptr;
+    const QTableWidgetItem *shortName
+        = targets ? targets->item(targetRow, TargetStatus::ShortNameColumn) : nullptr;
+    const QString targetId = id ? id->text() : QString();
+    if (!confirmOverwrite(bodyName)
+        || !resolveTargetConflict(shortName ? shortName->text() : QString()))
         return;
-    }
-    QString active;
-    if (channel.getString(QStringLiteral("status active"), &active) != 0) {
-        channel.report(refused);
-        return;
-    }
-    if (!CommandText::isNone(active) && active != QLatin1String("err")) {
-        channel.report(refused + tr(". Calibration is already active."));
-        return;
-    }
-
-    search.start->setEnabled(false);
-    search.stop->setEnabled(true);
-    if (search.deselectColumnAtStart >= 0)
-        applySelectDeselectRules(search.deselectColumnAtStart);
-    else
-        applySelectionRules();
-    setSearchControlsEnabled(false);
-    stopMeasurementTimer();
-    stopStatusTimer();
-    if (channel.sendMetaCommand(QStringLiteral("velora2 cal targetlib start")) != 0) {
-        channel.report(refused);
-        search.start->setEnabled(true);
-        startStatusTimer();
-        return;
-    }
-
-    channel.report(tr("target library calibration started"));
-    const QList<Target *> found
-        = targetStatus.targetsOf(search.bodyType, TargetStatus::FoundTargets);
-    for (const Target *target : found) {
-        if (target->calibrated)
-            channel.report(tr("%1 already calibrated").arg(target->name));
-    }
-    if (search.progressBar)
-        search.progressBar->setValue(0);
-    startMeasurementTimer();
+    assignTarget(bodyRow, targetRow);
+    update_tab();
+    targetAssigned(targetId);
 }
 
-void BodyTypeAdministrationTab::restartStatusTimerAfterSearch()
+void BodyTypeAdministrationTab::deselectTarget(int bodyRow)
 {
-    search.start->setEnabled(true);
-    search.stop->setEnabled(false);
-    applySelectionRules();
-    setSearchControlsEnabled(true);
-    startStatusTimer();
-}
-
-void BodyTypeAdministrationTab::doMeasurement_tl()
-{
-    QString step;
-    if (channel.getString(QStringLiteral("status step_active"), &step) != 0) {
-        stopMeasurementTimer();
-        channel.report(tr("Error during target library calibration. Calibration aborted"));
-        search.start->setEnabled(true);
-        search.stop->setEnabled(false);
-        startStatusTimer();
-        return;
-    }
-    if (step.startsWith(QLatin1String("cal"))) {
-        double progress = 0.0;
-        if (channel.getDouble(QStringLiteral("status progress"), &progress) == 0
-            && search.progressBar)
-            search.progressBar->setValue(int(progress * 100));
-        updateTrackedAndAcceptStatus_tl();
-        return;
-    }
-
-    stopMeasurementTimer();
-    channel.report(tr("target library calibration stopped"));
-    if (search.progressBar)
-        search.progressBar->setValue(search.progressBar->maximum());
-    stopStatusTimer();
-    targetStatus.refreshTracked(search.bodyType);
-    foundTargets = targetStatus.targetsOf(search.bodyType, TargetStatus::FoundTargets).size();
-    if (search.resultLabel)
-        search.resultLabel->clear();
-    announceFoundTargets(foundTargets);
-    restartStatusTimerAfterSearch();
-}
-
-void BodyTypeAdministrationTab::on_stop_search()
-{
-    stopMeasurementTimer();
-    if (search.progressBar)
-        search.progressBar->setValue(0);
-    channel.sendCommand(QStringLiteral("velora2 cal targetlib stop"));
-    channel.report(tr("target library calibration cancelled"));
-    search.start->setEnabled(true);
-    search.stop->setEnabled(false);
-    applySelectionRules();
-    setSearchControlsEnabled(true);
-    if (search.resultLabel)
-        search.resultLabel->clear();
-    announceFoundTargets(foundTargets);
-    startStatusTimer();
-}
-
-void BodyTypeAdministrationTab::updateTrackedAndAcceptStatus_tl()
-{
-    if (!search.targetTable)
-        return;
-    const int targetRow = search.targetTable->currentRow();
-    if (!search.categoryCombo
-        || search.categoryCombo->currentText().startsWith(TargetStatus::FoundTargets)) {
-        targetStatus.refreshTracked(search.bodyType);
-        fillTargetTable(TargetStatus::FoundTargets);
-    }
-    targetStatus.showTracked(search.targetTable);
-
-    const QList<Target *> found
-        = targetStatus.targetsOf(search.bodyType, TargetStatus::FoundTargets);
-    foundTargets = found.size();
-    const int calibrated = int(
-        std::count_if(found.cbegin(), found.cend(), [](const Target *t) { return t->calibrated; }));
-    if (search.resultLabel) {
-        const int progress = search.progressBar ? search.progressBar->value() : 0;
-        if (progress < 1 || progress >= 100)
-            search.resultLabel->clear();
-        else
-            search.resultLabel->setText(
-                tr("found targets: %1, already calibrated: %2").arg(foundTargets).arg(calibrated));
-    }
-    search.targetTable->setCurrentCell(targetRow, 0);
+    removeTarget(bodyRow);
+    update_tab();
 }
 
 bool BodyTypeAdministrationTab::confirmOverwrite(const QString &bodyName)
@@ -652,15 +523,15 @@ bool BodyTypeAdministrationTab::confirmOverwrite(const QString &bodyName)
 
 bool BodyTypeAdministrationTab::assignTarget(int bodyRow, int targetRow)
 {
-    BodyTypeEntry *e = entry(search.bodyType);
-    const QTableWidgetItem *idItem = search.targetTable
-        ? search.targetTable->item(targetRow, TargetStatus::IdColumn)
-        : nullptr;
+    const TargetSearch::Widgets &w = targetSearch->widgets();
+    BodyTypeEntry *e = entry(w.bodyType);
+    const QTableWidgetItem *idItem
+        = w.targetTable ? w.targetTable->item(targetRow, TargetStatus::IdColumn) : nullptr;
     const Target *target
         = idItem && targetLibrary ? targetLibrary->target(idItem->text()) : nullptr;
     if (!e || !e->contains(bodyRow) || !target)
         return false;
-    const QString type = search.bodyType;
+    const QString type = w.bodyType;
 
     QList<int> affected;
     const bool assigned
@@ -674,14 +545,91 @@ bool BodyTypeAdministrationTab::assignTarget(int bodyRow, int targetRow)
 
 void BodyTypeAdministrationTab::removeTarget(int bodyRow)
 {
-    const BodyTypeEntry *e = entry(search.bodyType);
+    const QString type = targetSearch->widgets().bodyType;
+    const BodyTypeEntry *e = entry(type);
     if (e && e->contains(bodyRow))
-        deleteFromTable(search.bodyType, bodyRow);
+        deleteFromTable(type, bodyRow);
 }
 
 void BodyTypeAdministrationTab::refreshTargetStatus(const QString &type)
 {
     targetStatus.refreshCalibratedOfGroup(type, QString());
-    if (search.targetTable)
-        fillTargetTable(search.categoryCombo ? search.categoryCombo->currentText() : QString());
+    const TargetSearch::Widgets &w = targetSearch->widgets();
+    fillTargetTable(w.categoryCombo ? w.categoryCombo->currentText() : QString());
+}
+
+// Pieces the tabs share.
+
+void BodyTypeAdministrationTab::setUpBodyTable(
+    QTableWidget *table, const QStringList &headers, int nameColumn)
+{
+    table->setRowCount(0);
+    table->setColumnCount(headers.size());
+    table->setHorizontalHeaderLabels(headers);
+    table->horizontalHeader()->setSectionsClickable(false);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->verticalHeader()->hide();
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    // Names are edited on a double click only.
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    if (nameColumn >= 0)
+        table->setItemDelegateForColumn(nameColumn, delegate);
+}
+
+void BodyTypeAdministrationTab::stretchColumn(QTableWidget *table, int column)
+{
+    QHeaderView *header = table->horizontalHeader();
+    header->setStretchLastSection(false);
+    for (int c = 0; c < header->count(); ++c)
+        header->setSectionResizeMode(
+            c, c == column ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+}
+
+int BodyTypeAdministrationTab::maximumFromController(
+    const QString &query, const QString &type, int fallback, const QString &error)
+{
+    int maximum = fallback;
+    if (channel.getInt(query, &maximum) != 0) {
+        channel.report(error.arg(type));
+        maximum = fallback;
+    }
+    return maximum;
+}
+
+void BodyTypeAdministrationTab::sendNumberOfBodies(
+    const QString &command, const QString &type, int count, const QString &error)
+{
+    if (channel.setParameter(command.arg(count)) != 0)
+        channel.report(error.arg(type).arg(count));
+}
+
+void BodyTypeAdministrationTab::showMaximumReached(
+    QLabel *label, const QSpinBox *spinBox, const QString &text)
+{
+    label->setText(spinBox->value() >= spinBox->maximum() ? text : QString());
+}
+
+void BodyTypeAdministrationTab::switchGlobalFilterOn(
+    const QString &parameter, const QString &readError, const QString &writeError)
+{
+    if (!channel.atLeast(1, 12) || locked)
+        return;
+    QString filter;
+    if (channel.getString(parameter, &filter) != 0) {
+        channel.report(readError);
+        return;
+    }
+    if (filter == CommandText::no()
+        && channel.setParameter(parameter + QLatin1Char(' ') + CommandText::yes()) != 0)
+        channel.report(writeError);
+}
+
+void BodyTypeAdministrationTab::handOverCustomCalibration(const QString &type, int row)
+{
+    if (row < 0)
+        return;
+    if (dialog)
+        dialog->hide();
+    HandOverRequest::customCalibration(type, row).send(channel);
 }

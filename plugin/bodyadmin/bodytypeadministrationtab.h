@@ -6,12 +6,13 @@
 #include "bodytablefiller.h"
 #include "bodytypeentry.h"
 #include "commandchannel.h"
+#include "targetsearch.h"
 #include "targetstatus.h"
 
 #include <QMap>
-#include <QTimer>
 #include <QWidget>
 
+class EditDelegate;
 class IOManager;
 class QComboBox;
 class QLabel;
@@ -32,27 +33,9 @@ struct BackendVersions;
 class BodyTypeAdministrationTab : public QWidget
 {
     Q_OBJECT
+    friend class TargetSearch;
 
 public:
-    // The widgets of a tab's target search; null where the tab has none.
-    struct SearchWidgets {
-        QPushButton *start = nullptr;
-        QPushButton *stop = nullptr;
-        QPushButton *select = nullptr;
-        QPushButton *deselect = nullptr;
-        QProgressBar *progressBar = nullptr;
-        QLabel *resultLabel = nullptr;
-        QTableWidget *targetTable = nullptr;
-        QComboBox *categoryCombo = nullptr;
-        QString bodyType; // the type whose bodies get targets assigned
-        // The body-table column whose text the Deselect rule tests when a
-        // search starts; -1 for the name column. Some tabs test another one.
-        int deselectColumnAtStart = -1;
-    };
-
-    static constexpr int MeasurementInterval = 600;
-    static constexpr int StatusInterval = 603;
-
     BodyTypeAdministrationTab(IOManager *ioManager, QWidget *parent,
         BackendVersions *backendVersions, Targetlibrary *targetLibrary);
     ~BodyTypeAdministrationTab() override;
@@ -73,7 +56,7 @@ public:
     QString calibrationText(const QString &type, int index) const;
     QString selectionType() const { return selectedType; }
     int selectionIndex() const { return selectedIndex; }
-    bool isSearching() const { return measurementTimer.isActive(); }
+    bool isSearching() const { return targetSearch->isSearching(); }
     // Multi-user Gripwands are in effect (only the Gripwand tab knows).
     virtual bool isMultiUserActive() { return false; }
     // Select and Deselect follow the current rows while no search runs.
@@ -81,7 +64,7 @@ public:
     // Reads the used state of the type's library targets again and refills
     // the target table, after another module may have calibrated a body.
     void refreshTargetStatus(const QString &type);
-    int foundTargetCount() const { return foundTargets; }
+    int foundTargetCount() const { return targetSearch->foundTargets(); }
 
 public slots:
     virtual void updateView() = 0;
@@ -131,22 +114,37 @@ protected:
     void changeNumberOfBodies(const QString &type, int count);
     void setReferenceBody(const QString &type, int index, bool set);
 
-    // The target search. Start, a measurement step and Stop as every tab
-    // runs them; a tab adjusts the widgets through the hooks below.
-    void setSearchWidgets(const SearchWidgets &widgets);
-    void on_start_search();
-    void on_stop_search();
+    // Pieces the tabs share for their own widgets.
+    // Header not clickable, no vertical header, single whole rows, and the
+    // name delegate on the name column.
+    void setUpBodyTable(QTableWidget *table, const QStringList &headers, int nameColumn);
+    // The name column stretches; every other column fits its contents.
+    static void stretchColumn(QTableWidget *table, int column);
+    // The controller's maximum, or the fallback after the error report.
+    int maximumFromController(
+        const QString &query, const QString &type, int fallback, const QString &error);
+    void sendNumberOfBodies(
+        const QString &command, const QString &type, int count, const QString &error);
+    static void showMaximumReached(QLabel *label, const QSpinBox *spinBox, const QString &text);
+    // Switches a type's global 6DOF filter back on (from 1.12, unlocked).
+    void switchGlobalFilterOn(
+        const QString &parameter, const QString &readError, const QString &writeError);
+    // Hides the dialog and hands the body to the custom calibration.
+    void handOverCustomCalibration(const QString &type, int row);
+
+    // Target search and assignment; a tab overrides where it differs.
+    void setSearchWidgets(const TargetSearch::Widgets &widgets);
     void fillTargetTable(const QString &group);
-    void announceFoundTargets(int count);
-    // Asks before a named body's calibration is overwritten; no question for
-    // an unnamed body.
+    // Select: asks before a named body's calibration is overwritten, lets
+    // the tab check for conflicts, assigns and refreshes the tab.
+    void selectTarget(int bodyRow, int targetRow, const QString &bodyName);
+    void deselectTarget(int bodyRow);
     bool confirmOverwrite(const QString &bodyName);
     bool assignTarget(int bodyRow, int targetRow);
     void removeTarget(int bodyRow);
-    void startStatusTimer();
-    void stopStatusTimer();
-    void startMeasurementTimer();
-    void stopMeasurementTimer();
+    virtual bool resolveTargetConflict(const QString &shortName);
+    virtual void targetAssigned(const QString &targetId);
+    // deselectColumn -1: the name column.
     void applySelectDeselectRules(int deselectColumn);
     // Controls a tab locks while a search runs.
     virtual void setSearchControlsEnabled(bool enabled);
@@ -163,19 +161,14 @@ protected:
     bool locked = false;
     QString selectedType;
     int selectedIndex = -1;
-    SearchWidgets search;
-    int foundTargets = 0;
+    TargetSearch *targetSearch;
+    QWidget *dialog; // the owning dialog, hidden during a hand-over
+    EditDelegate *delegate;
 
 private:
     void deleteFromTable(const QString &type, int index);
     void toggleFilter(const QString &type, int index);
     const BodyRecord *selectedBody() const;
-    void restartStatusTimerAfterSearch();
-
-    QTimer measurementTimer;
-    QTimer statusTimer;
-    int measurementTimerId = -1;
-    int statusTimerId = -1;
 };
 
 #endif // BODYTYPEADMINISTRATIONTAB_H

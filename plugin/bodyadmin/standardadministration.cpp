@@ -1,13 +1,12 @@
 #include "standardadministration.h"
 
-#include "editdelegate.h"
 #include "filterdialog.h"
-#include "handoverrequest.h"
 #include "targetlibrary.h"
 #include "ui_standardadministration.h"
 
-#include <QHeaderView>
 #include <QMessageBox>
+
+#include <algorithm>
 
 namespace
 {
@@ -22,8 +21,6 @@ StandardAdministration::StandardAdministration(IOManager *ioManager, QWidget *pa
     BackendVersions *backendVersions, const QString & /*text*/, Targetlibrary *targetLibrary)
     : BodyTypeAdministrationTab(ioManager, parent, backendVersions, targetLibrary)
     , ui(new Ui::StandardAdministrationClass)
-    , delegate(new EditDelegate(this))
-    , dialog(parent)
 {
     ui->setupUi(this);
     setWhatsThis(tr("Administration of standard bodies"));
@@ -35,21 +32,14 @@ StandardAdministration::StandardAdministration(IOManager *ioManager, QWidget *pa
             QStringLiteral("%1"));
     filterAvailable = standard.filterAvailable;
 
-    QTableWidget *table = ui->tableWidget_standard;
-    table->setRowCount(0);
-    table->setColumnCount(10);
-    table->setHorizontalHeaderLabels({ tr("ID"), tr("Active"), tr("Reference"), tr("Name"),
-        tr("Model"), tr("Device ID"), tr("Calibration"), tr("Filter"), tr("Delete"), tr("Reset") });
-    table->horizontalHeader()->setSectionsClickable(false);
-    table->verticalHeader()->hide();
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setItemDelegateForColumn(NameCol, delegate);
-    table->setColumnHidden(FilterCol, !filterAvailable);
+    setUpBodyTable(ui->tableWidget_standard,
+        { tr("ID"), tr("Active"), tr("Reference"), tr("Name"), tr("Model"), tr("Device ID"),
+            tr("Calibration"), tr("Filter"), tr("Delete"), tr("Reset") },
+        NameCol);
+    ui->tableWidget_standard->setColumnHidden(FilterCol, !filterAvailable);
     reloadBodies(Standard);
 
-    SearchWidgets widgets;
+    TargetSearch::Widgets widgets;
     widgets.start = ui->pushButton_start;
     widgets.stop = ui->pushButton_stop;
     widgets.select = ui->pushButton_select;
@@ -59,6 +49,7 @@ StandardAdministration::StandardAdministration(IOManager *ioManager, QWidget *pa
     widgets.targetTable = ui->tableWidget_targetlibrary;
     widgets.categoryCombo = ui->comboBox_filter;
     widgets.bodyType = Standard;
+    widgets.targetType = Standard;
     // Kept: at the start of a search the Deselect rule looks at "Model".
     widgets.deselectColumnAtStart = ModelCol;
     setSearchWidgets(widgets);
@@ -67,7 +58,6 @@ StandardAdministration::StandardAdministration(IOManager *ioManager, QWidget *pa
     fillCategories();
     fillTargetTable(ui->comboBox_filter->currentText());
     targetRow = ui->tableWidget_targetlibrary->currentRow();
-    foundTargets = 0;
 }
 
 StandardAdministration::~StandardAdministration()
@@ -110,35 +100,28 @@ int StandardAdministration::maxNumberOfBodies(const QString &btype)
 {
     if (btype != Standard)
         return 0;
-    int maximum = DefaultMaximum;
-    if (channel.getInt(QStringLiteral("standard max_number_of_bodies"), &maximum) != 0) {
-        channel.report(tr("Error: Unable to get max number of %1 bodies").arg(btype));
-        maximum = DefaultMaximum;
-    }
-    return maximum;
+    return maximumFromController(QStringLiteral("standard max_number_of_bodies"), btype,
+        DefaultMaximum, tr("Error: Unable to get max number of %1 bodies"));
 }
 
 void StandardAdministration::setNumberOfBodies(const QString &btype, int count)
 {
-    if (btype != Standard)
-        return;
-    if (channel.setParameter(QStringLiteral("standard number_of_bodies %1").arg(count)) != 0)
-        channel.report(tr("Error: Unable to set number of %1 bodies to %2").arg(btype).arg(count));
+    if (btype == Standard)
+        sendNumberOfBodies(QStringLiteral("standard number_of_bodies %1"), btype, count,
+            tr("Error: Unable to set number of %1 bodies to %2"));
 }
 
 void StandardAdministration::updateColumnsAndStatus()
 {
+    // Model and device id only mean something with inertial sensors.
     const BodyTypeEntry *standard = entry(Standard);
     const bool sensors = standard
         && std::any_of(standard->bodies.cbegin(), standard->bodies.cend(),
             [](const BodyRecord &body) { return body.hasInertialSensor(); });
     ui->tableWidget_standard->setColumnHidden(ModelCol, !sensors);
     ui->tableWidget_standard->setColumnHidden(DeviceCol, !sensors);
-
-    QSpinBox *spinBox = ui->spinBox_standard_bodies;
-    ui->label_error->setText(spinBox->value() >= spinBox->maximum()
-            ? tr("<b><font color=red>Max. number of bodies is reached!</font></b>")
-            : QString());
+    showMaximumReached(ui->label_error, ui->spinBox_standard_bodies,
+        tr("<b><font color=red>Max. number of bodies is reached!</font></b>"));
     emit selection_changed();
 }
 
@@ -158,11 +141,7 @@ void StandardAdministration::updateView()
 
 void StandardAdministration::resizeEvent(QResizeEvent *event)
 {
-    QHeaderView *header = ui->tableWidget_standard->horizontalHeader();
-    header->setStretchLastSection(false);
-    for (int column = 0; column < header->count(); ++column)
-        header->setSectionResizeMode(
-            column, column == NameCol ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    stretchColumn(ui->tableWidget_standard, NameCol);
     QWidget::resizeEvent(event);
 }
 
@@ -220,11 +199,6 @@ void StandardAdministration::on_tableWidget_standard_itemSelectionChanged()
     ui->pushButton_filter->setEnabled(!isSearching() && canFilterSelected());
 }
 
-void StandardAdministration::applySelectionRules()
-{
-    BodyTypeAdministrationTab::applySelectionRules();
-}
-
 // Activation with the reference question.
 
 void StandardAdministration::setBodyActive(const QString &btype, int index, bool active)
@@ -270,6 +244,7 @@ void StandardAdministration::updateExtraColumn(
     const QString sensor = standard->bodies.at(index).inertialSensor;
     if (sensor.isEmpty())
         return;
+    // "VX IMU 'A1234'": the model in the first two words, the device in the third.
     const QStringList words = sensor.split(QLatin1Char(' '));
     if (column == ModelCol) {
         const QString model = words.mid(0, 2).join(QLatin1Char(' '));
@@ -282,21 +257,14 @@ void StandardAdministration::updateExtraColumn(
 
 void StandardAdministration::ON_activeConfigurationChanged()
 {
-    if (!channel.atLeast(1, 12) || locked)
-        return;
-    QString filter;
-    if (channel.getString(QStringLiteral("standard filter_bodies"), &filter) != 0) {
-        channel.report(tr("Error: Unable to get global filter6d status of standard bodies"));
-        return;
-    }
-    if (filter == CommandText::no()
-        && channel.setParameter(QStringLiteral("standard filter_bodies yes")) != 0)
-        channel.report(tr("Error: Unable to set global filter6d status of standard bodies"));
+    switchGlobalFilterOn(QStringLiteral("standard filter_bodies"),
+        tr("Error: Unable to get global filter6d status of standard bodies"),
+        tr("Error: Unable to set global filter6d status of standard bodies"));
 }
 
 // Target assignment.
 
-bool StandardAdministration::resolveReferenceConflict(const QString &shortName)
+bool StandardAdministration::resolveTargetConflict(const QString &shortName)
 {
     if (shortName.isEmpty())
         return true;
@@ -326,8 +294,9 @@ bool StandardAdministration::resolveReferenceConflict(const QString &shortName)
     return true;
 }
 
-void StandardAdministration::warnIfBendable(const QString &targetId)
+void StandardAdministration::targetAssigned(const QString &targetId)
 {
+    // Glasses and head-mounted displays may bend when they are mounted.
     const QString category = targetLibrary ? targetLibrary->groupOf(targetId) : QString();
     if (category != QLatin1String("Glasses Target") && category != QLatin1String("HMD Target"))
         return;
@@ -341,41 +310,22 @@ void StandardAdministration::warnIfBendable(const QString &targetId)
 
 void StandardAdministration::on_pushButton_select_clicked()
 {
-    QTableWidget *targets = ui->tableWidget_targetlibrary;
     if (ui->tableWidget_standard->currentRow() < 0)
         return;
     assignBodyRow = ui->tableWidget_standard->currentRow();
-    assignTargetRow = qMax(targets->currentRow(), 0);
-    const QTableWidgetItem *idItem = targets->item(assignTargetRow, TargetStatus::IdColumn);
-    const QTableWidgetItem *shortName
-        = targets->item(assignTargetRow, TargetStatus::ShortNameColumn);
-    const QString targetId = idItem ? idItem->text() : QString();
-
-    if (!confirmOverwrite(bodyName(assignBodyRow))
-        || !resolveReferenceConflict(shortName ? shortName->text() : QString()))
-        return;
-    assignTarget(assignBodyRow, assignTargetRow);
-    update_tab();
-    warnIfBendable(targetId);
+    assignTargetRow = qMax(ui->tableWidget_targetlibrary->currentRow(), 0);
+    selectTarget(assignBodyRow, assignTargetRow, bodyName(assignBodyRow));
 }
 
 void StandardAdministration::on_pushButton_deselect_clicked()
 {
-    const int row = ui->tableWidget_standard->currentRow();
-    if (row < 0)
-        return;
-    removeTarget(row);
-    update_tab();
+    if (ui->tableWidget_standard->currentRow() >= 0)
+        deselectTarget(ui->tableWidget_standard->currentRow());
 }
 
 void StandardAdministration::on_pushButton_customCalibration_clicked()
 {
-    const int row = ui->tableWidget_standard->currentRow();
-    if (row < 0)
-        return;
-    if (dialog)
-        dialog->hide();
-    HandOverRequest::customCalibration(Standard, row).send(channel);
+    handOverCustomCalibration(Standard, ui->tableWidget_standard->currentRow());
 }
 
 void StandardAdministration::on_pushButton_filter_clicked()
@@ -398,15 +348,15 @@ void StandardAdministration::on_comboBox_filter_currentIndexChanged(const QStrin
 
 void StandardAdministration::on_pushButton_start_clicked()
 {
-    if (ui->comboBox_filter->currentText() != TargetStatus::FoundTargets)
-        ui->comboBox_filter->setCurrentIndex(
-            ui->comboBox_filter->findText(TargetStatus::FoundTargets));
-    on_start_search();
+    QComboBox *combo = ui->comboBox_filter;
+    if (combo->currentText() != TargetStatus::FoundTargets)
+        combo->setCurrentIndex(combo->findText(TargetStatus::FoundTargets));
+    targetSearch->start();
 }
 
 void StandardAdministration::on_pushButton_stop_clicked()
 {
-    on_stop_search();
+    targetSearch->stop();
 }
 
 void StandardAdministration::setSearchControlsEnabled(bool enabled)

@@ -3,8 +3,6 @@
 
 #include "bodytypeadministrationtab.h"
 
-class EditDelegate;
-
 namespace Ui
 {
 class StandardAdministrationClass;
@@ -30,7 +28,6 @@ public:
     void setNumberOfBodies(const QString &btype, int count) override;
     void updateExtraColumn(
         const QString &btype, int index, int column, QTableWidgetItem *item) override;
-    void applySelectionRules() override;
 
 signals:
     void selection_changed();
@@ -54,6 +51,8 @@ public slots:
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void setSearchControlsEnabled(bool enabled) override;
+    bool resolveTargetConflict(const QString &shortName) override;
+    void targetAssigned(const QString &targetId) override;
 
 private:
     enum Column {
@@ -73,13 +72,9 @@ private:
     void updateColumnsAndStatus();
     void updateMoveButtons();
     void fillCategories();
-    bool resolveReferenceConflict(const QString &shortName);
-    void warnIfBendable(const QString &targetId);
     QString bodyName(int row) const;
 
     Ui::StandardAdministrationClass *ui;
-    EditDelegate *delegate;
-    QWidget *dialog;
     bool filterAvailable = false;
     int targetRow = -1;
     int assignBodyRow = 0;

@@ -157,7 +157,11 @@ void TargetStatus::showTracked(QTableWidget *table) const
     for (int row = 0; row < table->rowCount(); ++row) {
         const QTableWidgetItem *id = table->item(row, IdColumn);
         QTableWidgetItem *name = table->item(row, NameColumn);
-        if (id && name)
-            name->setBackground(isTracked(id->text()) ? TrackedColor : UntrackedColor);
+        if (!id || !name)
+            continue;
+        const bool tracked = isTracked(id->text());
+        name->setBackground(tracked ? TrackedColor : UntrackedColor);
+        if (Target *target = m_library ? m_library->target(id->text()) : nullptr)
+            target->tracked = tracked;
     }
 }

@@ -41,7 +41,8 @@ public:
 
     static void setUpTable(QTableWidget *table);
     void fillTable(QTableWidget *table, const QString &bodyType, const QString &group) const;
-    // Colours the name cell of each row by the target's tracked state.
+    // Asks the tracked state of each listed target, keeps it in the
+    // library and colours the row's name cell by it.
     void showTracked(QTableWidget *table) const;
 
 private:

@@ -33,7 +33,7 @@ public:
             { IdColumn, ActiveColumn, ReferenceColumn, NameColumn, ExtraColumn, CalibrationColumn,
                 FilterColumn, DeleteColumn, ResetColumn },
             "%1");
-        SearchWidgets widgets;
+        TargetSearch::Widgets widgets;
         widgets.start = start;
         widgets.stop = stop;
         widgets.select = select;
@@ -42,6 +42,7 @@ public:
         widgets.resultLabel = result;
         widgets.targetTable = targets;
         widgets.bodyType = "standard";
+        widgets.targetType = "standard";
         setSearchWidgets(widgets);
         stop->setEnabled(false);
     }
@@ -66,8 +67,8 @@ public:
     }
 
     void setReference(int index, bool set) { setReferenceBody("standard", index, set); }
-    void startSearch() { on_start_search(); }
-    void stopSearch() { on_stop_search(); }
+    void startSearch() { targetSearch->start(); }
+    void stopSearch() { targetSearch->stop(); }
     void measurementStep() { doMeasurement_tl(); }
     void statusStep() { updateTrackedAndAcceptStatus_tl(); }
     void fillTargets(const QString &group) { fillTargetTable(group); }
