@@ -65,11 +65,10 @@ bool fitsInertialSensor(const QString &presetId)
 }
 
 // Predictions are exchanged in seconds and shown in whole milliseconds,
-// truncated toward zero. Rounding to microseconds first keeps 0.029 s from
-// showing as 28 ms.
+// truncated toward zero.
 int milliseconds(double seconds)
 {
-    return int(qRound64(seconds * 1e6) / 1000);
+    return int(seconds * 1000);
 }
 
 } // namespace
@@ -89,6 +88,8 @@ FilterDialog::FilterDialog(IOManager *ioManager, QWidget *parent, BackendVersion
     readLimits();
     for (const Preset &mode : readList(ListKind::Modes))
         ui->comboBox_mode->addItem(mode.description, mode.id);
+    // No mode is shown until a body's is read.
+    ui->comboBox_mode->setCurrentIndex(-1);
 }
 
 FilterDialog::~FilterDialog()
