@@ -8,11 +8,6 @@ namespace
 // Ids have at most three digits; a controller that claims more is broken.
 constexpr int MaxBodies = 999;
 
-bool isCustomPreset(const QString &preset)
-{
-    return preset.contains(QLatin1String("preset6d_")) && preset.contains(QLatin1String("_custom"));
-}
-
 } // namespace
 
 BodyLoader::BodyLoader(const CommandChannel &channel)
@@ -121,7 +116,7 @@ QString BodyLoader::filterText(const QString &type, int index) const
         return tr("not active");
 
     const QString preset = m_channel.stringOf(bodyQuery("filter6d_preset", type, index));
-    if (!isCustomPreset(preset))
+    if (!CommandText::isCustomPreset(preset))
         return CommandText::withoutDoubleQuotes(
             m_channel.stringOf(QStringLiteral("filter6d preset_desc %1").arg(preset)));
 
@@ -131,7 +126,7 @@ QString BodyLoader::filterText(const QString &type, int index) const
     const QString modeDescription = CommandText::withoutDoubleQuotes(
         m_channel.stringOf(QStringLiteral("filter6d mode_desc %1").arg(mode)));
     const int milliseconds = int(prediction * 1000);
-    if (preset.contains(QLatin1String("hybrid")))
+    if (CommandText::isHybridPreset(preset))
         return QStringLiteral("%1ms/%2").arg(milliseconds).arg(modeDescription);
 
     double strength = 0.0;

@@ -1,5 +1,8 @@
 #include "bodytabfactory.h"
 
+#include "fingertrackingadministration.h"
+#include "gripwandadministration.h"
+#include "mtadministration.h"
 #include "standardadministration.h"
 #include "versiongate.h"
 
@@ -33,11 +36,20 @@ QMap<int, BodyTypeAdministrationTab *> BodyTabFactory::create(IOManager *ioManag
             tab = new StandardAdministration(
                 ioManager, dialog, backendVersions, QString(), targetLibrary);
             break;
-        default:
+        case Gripwand:
+            tab = new GripwandAdministration(
+                ioManager, dialog, backendVersions, QString(), targetLibrary);
+            break;
+        case MeasurementTool:
+            tab = new MtAdministration(
+                ioManager, dialog, backendVersions, QString(), targetLibrary);
+            break;
+        case Fingertracking:
+            tab = new FingertrackingAdministration(
+                ioManager, dialog, backendVersions, QString(), targetLibrary);
             break;
         }
-        if (tab)
-            tabs.insert(key, tab);
+        tabs.insert(key, tab);
     }
     return tabs;
 }

@@ -1,6 +1,7 @@
 #include "bodytypeadministrationtab.h"
 
 #include "editdelegate.h"
+#include "filterdialog.h"
 #include "handoverrequest.h"
 #include "target.h"
 #include "targetlibrary.h"
@@ -338,10 +339,8 @@ void BodyTypeAdministrationTab::toggleFilter(const QString &type, int index)
     const QString body = type + QLatin1Char(' ') + CommandText::bodyIdOfIndex(index);
     const bool enabled = CommandText::isYes(
         channel.stringOf(QStringLiteral("body filter6d_enabled %1").arg(body)));
-    if (channel.setParameter(
-            QStringLiteral("body filter6d_enabled %1 %2").arg(body, CommandText::yesNo(!enabled)))
-        != 0)
-        channel.report(tr("Error: Unable to activate/deactivate filter 6d for body %1").arg(body));
+    FilterDialog filter(ioManager, this, backendVersions);
+    filter.setFilterEnabled(body, !enabled);
 }
 
 // Body operations.

@@ -103,7 +103,7 @@ QList<Target *> TargetStatus::targetsOf(const QString &bodyType, const QString &
 void TargetStatus::setUpTable(QTableWidget *table)
 {
     table->setColumnCount(4);
-    table->setHorizontalHeaderLabels({ tr("Used"), tr("Name"), tr("Short Name"), tr("ID") });
+    table->setHorizontalHeaderLabels({ tr("ID"), tr("Name"), tr("Short Name"), tr("Used") });
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);

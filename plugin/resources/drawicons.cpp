@@ -81,28 +81,36 @@ void deletion(QPainter &p) // "118.png": delete geometry
     p.drawLine(QPointF(21, 13), QPointF(11, 25));
 }
 
-void search(QPainter &p) // "19.png"
+// "19.png" and "24.png": move the selected body up or down.
+void arrow(QPainter &p, bool up)
 {
-    p.setPen(QPen(QColor(60, 60, 70), 4, Qt::SolidLine, Qt::RoundCap));
-    p.drawLine(QPointF(19, 19), QPointF(28, 28));
-    p.setPen(QPen(QColor(60, 60, 70), 2.5));
-    p.setBrush(QColor(190, 225, 250));
-    p.drawEllipse(QRectF(4, 4, 17, 17));
+    QPainterPath path;
+    if (up) {
+        path.moveTo(16, 4);
+        path.lineTo(28, 17);
+        path.lineTo(20, 17);
+        path.lineTo(20, 28);
+        path.lineTo(12, 28);
+        path.lineTo(12, 17);
+        path.lineTo(4, 17);
+    } else {
+        path.moveTo(16, 28);
+        path.lineTo(28, 15);
+        path.lineTo(20, 15);
+        path.lineTo(20, 4);
+        path.lineTo(12, 4);
+        path.lineTo(12, 15);
+        path.lineTo(4, 15);
+    }
+    path.closeSubpath();
+    QLinearGradient fill(0, 0, 32, 32);
+    fill.setColorAt(0, QColor(90, 160, 230));
+    fill.setColorAt(1, QColor(30, 100, 190));
+    p.setPen(QPen(QColor(20, 70, 140), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(fill);
+    p.drawPath(path);
 }
 
-void target(QPainter &p) // "24.png"
-{
-    p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(QColor(200, 40, 40), 2.5));
-    p.drawEllipse(QRectF(4, 4, 24, 24));
-    p.drawEllipse(QRectF(10, 10, 12, 12));
-    p.setPen(QPen(QColor(60, 60, 70), 1.5));
-    p.drawLine(QPointF(16, 1), QPointF(16, 31));
-    p.drawLine(QPointF(1, 16), QPointF(31, 16));
-}
-
-// A table as the module's widgets draw it. A cell text starting with "[x]" or
-// "[ ]" gets a check box; gray rows have light text like unusable bodies.
 void table(QPainter &p, const QRect &area, const QStringList &header,
     const QList<QStringList> &rows, const QList<bool> &gray)
 {
@@ -114,8 +122,8 @@ void table(QPainter &p, const QRect &area, const QStringList &header,
     const auto x = [&](int c) { return area.left() + c * (area.width() - 1) / columns; };
     const auto y = [&](int r) { return area.top() + r * (area.height() - 1) / rowCount; };
     p.fillRect(area, Qt::white);
-    p.fillRect(QRect(area.left(), area.top(), area.width(), y(1) - area.top()),
-        QColor(230, 232, 236));
+    p.fillRect(
+        QRect(area.left(), area.top(), area.width(), y(1) - area.top()), QColor(230, 232, 236));
     p.setPen(QColor(160, 165, 175));
     for (int r = 0; r <= rowCount; ++r)
         p.drawLine(area.left(), y(r), area.right(), y(r));
@@ -200,8 +208,8 @@ int main(int argc, char **argv)
     ok &= save(dir, "lock.png", IconSize, IconSize, lock);
     ok &= save(dir, "48.png", IconSize, IconSize, reset);
     ok &= save(dir, "118.png", IconSize, IconSize, deletion);
-    ok &= save(dir, "19.png", IconSize, IconSize, search);
-    ok &= save(dir, "24.png", IconSize, IconSize, target);
+    ok &= save(dir, "19.png", IconSize, IconSize, [](QPainter &p) { arrow(p, true); });
+    ok &= save(dir, "24.png", IconSize, IconSize, [](QPainter &p) { arrow(p, false); });
     ok &= save(dir, "bodytable.png", 460, 120, bodyTable);
     ok &= save(dir, "datadisplay.png", 460, 90, dataDisplay);
     return ok ? 0 : 1;

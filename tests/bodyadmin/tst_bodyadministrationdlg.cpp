@@ -31,6 +31,7 @@ private slots:
     void handOverTexts_data();
     void handOverTexts();
     void reopenRoundTrip();
+    void screenshots();
 
 private:
     SimulatedController *controller = nullptr;
@@ -277,6 +278,28 @@ void TestBodyAdministrationDlg::reopenRoundTrip()
     QTRY_COMPARE(shown, 2);
     QTRY_VERIFY(!dialog->isVisible());
     QCOMPARE(controller->messages().first(), QString("OpenBodyCalDialog standard b01"));
+}
+
+// Pictures for the README: SCREENSHOT_DIR=$PWD/docs ctest -R tst_bodyadministrationdlg
+void TestBodyAdministrationDlg::screenshots()
+{
+    const QString directory = qEnvironmentVariable("SCREENSHOT_DIR");
+    if (directory.isEmpty())
+        QSKIP("SCREENSHOT_DIR not set");
+    build();
+    auto *tabs = dialog->findChild<QTabWidget *>("tabWidget");
+    const QStringList names { "standard", "gripwand", "fingertracking", "measurementtool" };
+    ModalDriver driver;
+    driver.answer([&](QWidget *modal) {
+        for (int index = 0; index < tabs->count(); ++index) {
+            tabs->setCurrentIndex(index);
+            QApplication::processEvents();
+            modal->grab().save(directory + "/bodyadmin-" + names.value(index) + ".png");
+        }
+        static_cast<QDialog *>(modal)->reject();
+    });
+    dialog->update_and_exec();
+    QCOMPARE(driver.pending(), 0);
 }
 
 QTEST_MAIN(TestBodyAdministrationDlg)

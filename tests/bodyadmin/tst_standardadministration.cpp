@@ -132,8 +132,9 @@ void TestStandardAdministration::formTexts()
     for (int i = 1; i < combo->count(); ++i)
         categories << combo->itemText(i);
     QCOMPARE(categories, QStringList({ "Glasses Target", "HMD Target", "Tool Target" }));
-    QCOMPARE(widget<QTableWidget>("tableWidget_targetlibrary")->horizontalHeaderItem(0)->text(),
-        QString("Used"));
+    QTableWidget *targets = widget<QTableWidget>("tableWidget_targetlibrary");
+    QCOMPARE(targets->horizontalHeaderItem(0)->text(), QString("ID"));
+    QCOMPARE(targets->horizontalHeaderItem(3)->text(), QString("Used"));
 }
 
 void TestStandardAdministration::columns_data()

@@ -1,0 +1,176 @@
+#include "fingertrackingadministration.h"
+
+#include "ui_fingertrackingadministration.h"
+
+namespace
+{
+
+const QString Fingertracking = QStringLiteral("fingertracking");
+constexpr int DefaultMaximum = 4;
+
+} // namespace
+
+FingertrackingAdministration::FingertrackingAdministration(IOManager *ioManager, QWidget *parent,
+    BackendVersions *backendVersions, const QString & /*text*/, Targetlibrary *targetLibrary)
+    : BodyTypeAdministrationTab(ioManager, parent, backendVersions, targetLibrary)
+    , ui(new Ui::FingertrackingAdministrationClass)
+{
+    ui->setupUi(this);
+    setWhatsThis(tr("Administration of Fingertracking"));
+    setUpBodyTable(ui->tableWidget_fingertracking,
+        { tr("ID"), tr("Active"), tr("Name"), tr("Calibration"), tr("Delete"), tr("Reset") },
+        NameCol);
+
+    TargetSearch::Widgets widgets;
+    widgets.start = ui->pushButton_start;
+    widgets.stop = ui->pushButton_stop;
+    widgets.select = ui->pushButton_select;
+    widgets.deselect = ui->pushButton_deselect;
+    widgets.progressBar = ui->progressBar;
+    widgets.resultLabel = ui->label_targetlibrary;
+    widgets.targetTable = ui->tableWidget_targetlibrary;
+    widgets.bodyType = Fingertracking;
+    widgets.targetType = Fingertracking;
+    // Kept: at the start of a search the Deselect rule looks at "Delete".
+    widgets.deselectColumnAtStart = DeleteCol;
+    widgets.recountAtEnd = false;
+    setSearchWidgets(widgets);
+    ui->pushButton_stop->setEnabled(false);
+
+    testAvailability();
+}
+
+FingertrackingAdministration::~FingertrackingAdministration()
+{
+    delete ui;
+}
+
+QString FingertrackingAdministration::tabTitle() const
+{
+    return tr("F&ingertracking");
+}
+
+bool FingertrackingAdministration::isTypeAvailable() const
+{
+    return fingertrackingAvailable;
+}
+
+bool FingertrackingAdministration::canAdjustSelected() const
+{
+    return false;
+}
+
+int FingertrackingAdministration::currentRow() const
+{
+    return ui->tableWidget_fingertracking->currentRow();
+}
+
+void FingertrackingAdministration::testAvailability()
+{
+    const QString notAvailable
+        = tr("<b><font color=red>Fingertracking is not available!</font></b>");
+    if (fingertrackingAvailable) {
+        ui->label_error->setText(notAvailable);
+        return;
+    }
+    bool available = false;
+    if (channel.atLeast(1, 22))
+        available = true;
+    else if (channel.atLeast(0, 17))
+        available
+            = CommandText::isYes(channel.stringOf(QStringLiteral("fingertracking available")));
+    if (!available) {
+        ui->label_error->setText(notAvailable);
+        return;
+    }
+    // Once offered, the hands stay usable for the dialog's life.
+    fingertrackingAvailable = true;
+    addBodyType(Fingertracking, ui->tableWidget_fingertracking, ui->spinBox_fingertracking,
+        { IdColumn, ActiveColumn, NameColumn, CalibrationColumn, DeleteColumn, ResetColumn },
+        QStringLiteral("H%1"));
+}
+
+int FingertrackingAdministration::maxNumberOfBodies(const QString &btype)
+{
+    if (btype != Fingertracking)
+        return DefaultMaximum;
+    return maximumFromController(QStringLiteral("fingertracking max_number_of_hands"), btype,
+        DefaultMaximum, tr("Error: Unable to get max number of %1 hand bodies"));
+}
+
+void FingertrackingAdministration::setNumberOfBodies(const QString &btype, int count)
+{
+    if (btype == Fingertracking)
+        sendNumberOfBodies(QStringLiteral("fingertracking number_of_hands %1"), btype, count,
+            tr("Error: Unable to set number of %1 hand bodies to %2"));
+}
+
+void FingertrackingAdministration::resizeEvent(QResizeEvent *event)
+{
+    stretchColumn(ui->tableWidget_fingertracking, NameCol);
+    QWidget::resizeEvent(event);
+}
+
+void FingertrackingAdministration::updateView()
+{
+    showMaximumReached(ui->label_error_fingertracking, ui->spinBox_fingertracking,
+        tr("<b><font color=red>Max. number of Hands is reached!</font></b>"));
+    stretchColumn(ui->tableWidget_fingertracking, NameCol);
+}
+
+void FingertrackingAdministration::update_tab()
+{
+    QTableWidget *hands = ui->tableWidget_fingertracking;
+    QTableWidget *targets = ui->tableWidget_targetlibrary;
+    assignBodyRow = qMax(hands->currentRow(), 0);
+    const int keptTargetRow = targets->currentRow();
+    fillTargetTable(QString());
+    testAvailability();
+    ui->label_error->setVisible(!fingertrackingAvailable);
+
+    BodyTypeAdministrationTab::update_tab();
+    if (assignBodyRow < hands->rowCount())
+        hands->setCurrentCell(assignBodyRow, 0);
+    if (keptTargetRow >= 0 && keptTargetRow < targets->rowCount())
+        targets->setCurrentCell(keptTargetRow, 0);
+    ui->label_targetlibrary->clear();
+    ui->progressBar->setValue(0);
+    ui->pushButton_stop->setEnabled(false);
+}
+
+void FingertrackingAdministration::on_tableWidget_fingertracking_itemSelectionChanged()
+{
+    applySelectionRules();
+}
+
+void FingertrackingAdministration::on_pushButton_select_clicked()
+{
+    QTableWidget *hands = ui->tableWidget_fingertracking;
+    if (hands->currentRow() < 0)
+        return;
+    assignBodyRow = hands->currentRow();
+    assignTargetRow = ui->tableWidget_targetlibrary->currentRow();
+    const QTableWidgetItem *name = hands->item(assignBodyRow, NameCol);
+    selectTarget(assignBodyRow, assignTargetRow, name ? name->text() : QString());
+}
+
+void FingertrackingAdministration::on_pushButton_deselect_clicked()
+{
+    if (ui->tableWidget_fingertracking->currentRow() >= 0)
+        deselectTarget(ui->tableWidget_fingertracking->currentRow());
+}
+
+void FingertrackingAdministration::on_pushButton_start_clicked()
+{
+    targetSearch->start();
+}
+
+void FingertrackingAdministration::on_pushButton_stop_clicked()
+{
+    targetSearch->stop();
+}
+
+void FingertrackingAdministration::on_pushButton_calibration_clicked()
+{
+    handOverCustomCalibration(Fingertracking, ui->tableWidget_fingertracking->currentRow());
+}
