@@ -104,9 +104,10 @@ void BodyAdministrationDlg::update_config_locked()
 int BodyAdministrationDlg::update_and_exec()
 {
     update_config_locked();
-    setWindowIcon(locked || !parentWidget ? lockIcon : parentWidget->windowIcon());
-    if (!locked && !parentWidget)
-        setWindowIcon(QIcon());
+    if (locked)
+        setWindowIcon(lockIcon);
+    else
+        setWindowIcon(parentWidget ? parentWidget->windowIcon() : QIcon());
     for (QPushButton *button : { form->pushButton_filter, form->pushButton_calibration,
              form->pushButton_hybridCalibration, form->pushButton_body_adjustment })
         button->setEnabled(!locked);

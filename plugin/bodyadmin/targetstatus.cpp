@@ -109,7 +109,12 @@ void TargetStatus::setUpTable(QTableWidget *table)
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setSectionsClickable(false);
-    table->horizontalHeader()->setStretchLastSection(true);
+    // The long name gets the room; ids and states are short.
+    QHeaderView *header = table->horizontalHeader();
+    header->setStretchLastSection(false);
+    for (int column = 0; column < table->columnCount(); ++column)
+        header->setSectionResizeMode(
+            column, column == NameColumn ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
 }
 
 QString TargetStatus::customCalibrationOf(const QString &id) const

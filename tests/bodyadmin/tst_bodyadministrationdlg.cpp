@@ -24,6 +24,9 @@ private slots:
     void form();
     void tabsOffered_data();
     void tabsOffered();
+    void tabSets_data();
+    void tabSets();
+    void f8MovesToTheNextTab();
     void lock_data();
     void lock();
     void refusesToCloseDuringCalibration();
@@ -137,6 +140,77 @@ void TestBodyAdministrationDlg::tabsOffered()
             offered += QString::number(key);
     }
     QCOMPARE(offered, keys);
+}
+
+void TestBodyAdministrationDlg::tabSets_data()
+{
+    QTest::addColumn<QString>("systemType");
+    QTest::addColumn<int>("systemMinor");
+    QTest::addColumn<int>("systemPatch");
+    QTest::addColumn<int>("backendMajor");
+    QTest::addColumn<int>("backendMinor");
+    QTest::addColumn<QStringList>("titles");
+
+    const QString s = "&Standard", g = "&Gripwand", f = "F&ingertracking", m = "&Measurement Tool";
+    QTest::newRow("backend 0.16") << "VELORA TX8" << 1 << 0 << 0 << 16 << QStringList { s, g };
+    QTest::newRow("backend 1.2") << "VELORA TX8" << 1 << 0 << 1 << 2 << QStringList { s, g, f };
+    QTest::newRow("backend 1.3") << "VELORA TX8" << 1 << 0 << 1 << 3 << QStringList { s, g, f, m };
+    QTest::newRow("ORBILUX 2.9.3")
+        << "ORBILUX compact" << 9 << 3 << 1 << 24 << QStringList { s, g };
+    QTest::newRow("ORBILUX 2.9.4")
+        << "ORBILUX compact" << 9 << 4 << 1 << 3 << QStringList { s, g, m };
+}
+
+void TestBodyAdministrationDlg::tabSets()
+{
+    QFETCH(QString, systemType);
+    QFETCH(int, systemMinor);
+    QFETCH(int, systemPatch);
+    QFETCH(int, backendMajor);
+    QFETCH(int, backendMinor);
+    QFETCH(QStringList, titles);
+
+    BackendVersions &versions = controller->backendVersions();
+    versions.systemType = systemType;
+    versions.systemVersion = { 2, systemMinor, systemPatch };
+    versions.backendVersion = { backendMajor, backendMinor, 0 };
+    build();
+    auto *tabs = dialog->findChild<QTabWidget *>("tabWidget");
+    QStringList shown;
+    for (int i = 0; i < tabs->count(); ++i)
+        shown << tabs->tabText(i);
+    QCOMPARE(shown, titles);
+
+    // The third tab of an ORBILUX is the measurement tool's, with its button.
+    if (titles.size() == 3 && titles.last() == "&Measurement Tool") {
+        bool calibrationShown = false;
+        ModalDriver driver;
+        driver.answer([&](QWidget *modal) {
+            tabs->setCurrentIndex(2);
+            calibrationShown = button("pushButton_calibration")->isVisible();
+            static_cast<QDialog *>(modal)->reject();
+        });
+        dialog->update_and_exec();
+        QVERIFY(calibrationShown);
+        QCOMPARE(dialog->currentTab(), dialog->tab(BodyTabFactory::MeasurementTool));
+    }
+}
+
+void TestBodyAdministrationDlg::f8MovesToTheNextTab()
+{
+    build();
+    auto *tabs = dialog->findChild<QTabWidget *>("tabWidget");
+    QList<int> indices;
+    ModalDriver driver;
+    driver.answer([&](QWidget *modal) {
+        for (int i = 0; i < tabs->count(); ++i) {
+            QTest::keyClick(modal, Qt::Key_F8);
+            indices << tabs->currentIndex();
+        }
+        static_cast<QDialog *>(modal)->reject();
+    });
+    dialog->update_and_exec();
+    QCOMPARE(indices, QList<int>({ 1, 2, 3, 0 }));
 }
 
 void TestBodyAdministrationDlg::lock_data()
