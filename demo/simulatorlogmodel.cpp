@@ -73,7 +73,7 @@ bool SimulatorLogModel::isFailure(const LogEntry &entry)
     if (entry.kind == LogEntry::Message)
         return entry.receiver == QLatin1String("standard")
             && entry.text.startsWith(QLatin1String("Error"));
-    return entry.kind == LogEntry::Timeout || entry.result != 0;
+    return entry.kind != LogEntry::ReplyTimeout && entry.result != 0;
 }
 
 void SimulatorLogModel::append(const LogEntry &entry)
@@ -115,9 +115,10 @@ QString SimulatorLogModel::cellText(const LogEntry &entry, int column) const
             return entry.reply;
         return entry.reply.isEmpty() ? entry.error : tr("%1 (%2)").arg(entry.reply, entry.error);
     case ResultColumn:
-        if (entry.kind == LogEntry::Timeout)
-            return tr("time-out");
-        return message ? QString() : QString::number(entry.result);
+        // Messages and the reply time-out have no result.
+        if (message || entry.kind == LogEntry::ReplyTimeout)
+            return QString();
+        return QString::number(entry.result);
     default:
         return QString();
     }

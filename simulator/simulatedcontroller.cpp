@@ -449,7 +449,7 @@ void SimulatedController::setReplyTimeout(int reserved1, int milliseconds, int r
 {
     d->replyTimeout = milliseconds;
     LogEntry entry;
-    entry.kind = LogEntry::Timeout;
+    entry.kind = LogEntry::ReplyTimeout;
     entry.operation = QStringLiteral("setReplyTimeout");
     entry.text = QStringLiteral("%1 %2 %3").arg(reserved1).arg(milliseconds).arg(reserved2);
     d->record(entry);

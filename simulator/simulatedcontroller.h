@@ -22,7 +22,8 @@ class SimulatedController : public QObject, public IOManager
 
 public:
     struct LogEntry {
-        enum Kind { Command, Query, Setting, Message, Timeout };
+        // ReplyTimeout: setReplyTimeout was called.
+        enum Kind { Command, Query, Setting, Message, ReplyTimeout };
         Kind kind = Command;
         QString operation; // "sendCommand", "getString", ..., "sendMessage"
         QString text; // the formatted command, or the message text

@@ -81,9 +81,9 @@ void TestDemoLog::showsEntry_data()
                                       << "status progress"
                                       << "abc (no number)"
                                       << "2" << true;
-    QTest::newRow("time-out") << LogEntry::Timeout << "getInt"
-                              << "standard number_of_bodies" << none << 0 << none << none << none
-                              << "standard number_of_bodies" << none << "time-out" << true;
+    QTest::newRow("reply time-out set")
+        << LogEntry::ReplyTimeout << "setReplyTimeout"
+        << "0 5000 0" << none << 0 << none << none << none << "0 5000 0" << none << none << false;
     QTest::newRow("request to a module")
         << LogEntry::Message << "sendMessage"
         << "OpenBodyCalDialog standard b01" << none << 0 << "BodyAdministrationModule"

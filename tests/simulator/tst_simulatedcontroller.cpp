@@ -987,7 +987,7 @@ void tst_SimulatedController::logRecordsEveryCall()
     QCOMPARE(log.at(0).kind, Entry::Query);
     QCOMPARE(log.at(0).reply, QStringLiteral("\"Glasses\""));
     QCOMPARE(log.at(3).result, int(SimulatedController::UnknownParameter));
-    QCOMPARE(log.at(5).kind, Entry::Timeout);
+    QCOMPARE(log.at(5).kind, Entry::ReplyTimeout);
     QCOMPARE(controller.replyTimeout(), 5000);
     QCOMPARE(log.at(6).kind, Entry::Command);
     QCOMPARE(log.at(6).reply, Ok);
