@@ -23,6 +23,17 @@ int BodyLoader::numberOfBodies(const QString &type) const
     return qBound(0, count, MaxBodies);
 }
 
+int BodyLoader::maximum(
+    const QString &query, const QString &type, int fallback, const QString &error) const
+{
+    int maximum = fallback;
+    if (m_channel.getInt(query, &maximum) != 0) {
+        m_channel.report(error.arg(type));
+        maximum = fallback;
+    }
+    return qBound(0, maximum, MaxBodies);
+}
+
 QString BodyLoader::typeDescription(const QString &type) const
 {
     QString description;

@@ -19,6 +19,9 @@ public:
     explicit BodyLoader(const CommandChannel &channel);
 
     int numberOfBodies(const QString &type) const;
+    // A type's maximum number of bodies, or the fallback after the report.
+    int maximum(
+        const QString &query, const QString &type, int fallback, const QString &error) const;
     QString typeDescription(const QString &type) const;
     bool filterAvailable(const QString &type) const;
 

@@ -336,3 +336,25 @@ bool BodyOperations::calibrateFromTarget(const BodyTypeEntry &entry, const QStri
     m_channel.report(tr("Error: Unable to calibrate body from target library"));
     return false;
 }
+
+void BodyOperations::setNumberOfBodies(
+    const QString &command, const QString &type, int count, const QString &error) const
+{
+    if (m_channel.setParameter(command.arg(count)) != 0)
+        m_channel.report(error.arg(type).arg(count));
+}
+
+void BodyOperations::switchGlobalFilterOn(
+    const QString &parameter, const QString &readError, const QString &writeError) const
+{
+    if (!m_channel.atLeast(1, 12))
+        return;
+    QString filter;
+    if (m_channel.getString(parameter, &filter) != 0) {
+        m_channel.report(readError);
+        return;
+    }
+    if (filter == CommandText::no()
+        && m_channel.setParameter(parameter + QLatin1Char(' ') + CommandText::yes()) != 0)
+        m_channel.report(writeError);
+}

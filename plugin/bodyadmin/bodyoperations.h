@@ -37,6 +37,13 @@ public:
     bool calibrateFromTarget(const BodyTypeEntry &entry, const QString &type, int index,
         const QString &targetName, QList<int> *affected) const;
 
+    // command holds %1 for the count; error %1 the type and %2 the count.
+    void setNumberOfBodies(
+        const QString &command, const QString &type, int count, const QString &error) const;
+    // Switches a type's global 6DOF filter back on where it was off.
+    void switchGlobalFilterOn(
+        const QString &parameter, const QString &readError, const QString &writeError) const;
+
     // A Yes/No warning whose default is No.
     bool ask(const QString &question) const;
     void warn(const QString &text) const;

@@ -2,7 +2,10 @@
 
 #include "commandchannel.h"
 
+#include <QHeaderView>
+#include <QLabel>
 #include <QSignalBlocker>
+#include <QSpinBox>
 #include <QTableWidget>
 
 // "inertial available" and "inertial warmup" are asked at most once per
@@ -124,4 +127,32 @@ bool BodyTableFiller::sensorResetUsable(const BodyRecord &body, InertialState &i
             = CommandText::isYes(m_channel.stringOf(QStringLiteral("inertial warmup")));
     }
     return inertial.available && !inertial.warmingUp;
+}
+
+void BodyTableFiller::setUp(QTableWidget *table, const QStringList &headers)
+{
+    table->setRowCount(0);
+    table->setColumnCount(headers.size());
+    table->setHorizontalHeaderLabels(headers);
+    table->horizontalHeader()->setSectionsClickable(false);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->verticalHeader()->hide();
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+void BodyTableFiller::stretchColumn(QTableWidget *table, int column)
+{
+    QHeaderView *header = table->horizontalHeader();
+    header->setStretchLastSection(false);
+    for (int c = 0; c < header->count(); ++c)
+        header->setSectionResizeMode(
+            c, c == column ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+}
+
+void BodyTableFiller::showMaximumReached(
+    QLabel *label, const QSpinBox *spinBox, const QString &text)
+{
+    label->setText(spinBox->value() >= spinBox->maximum() ? text : QString());
 }

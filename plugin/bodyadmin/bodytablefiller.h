@@ -9,6 +9,9 @@
 #include <functional>
 
 class CommandChannel;
+class QLabel;
+class QSpinBox;
+class QTableWidget;
 class QTableWidgetItem;
 
 // Fills a body table from the cache, each cell according to its column's
@@ -25,6 +28,14 @@ public:
     explicit BodyTableFiller(const CommandChannel &channel);
 
     void fill(const BodyTypeEntry &entry, const ExtraColumnFiller &extraColumn) const;
+
+    // Header not clickable, no vertical header, single whole rows; names are
+    // edited on a double click only.
+    static void setUp(QTableWidget *table, const QStringList &headers);
+    // The name column stretches; every other column fits its contents.
+    static void stretchColumn(QTableWidget *table, int column);
+    // The red line under a spin box at its maximum.
+    static void showMaximumReached(QLabel *label, const QSpinBox *spinBox, const QString &text);
 
     // The icon's first size, drawn disabled.
     static QIcon disabledLook(const QIcon &icon);

@@ -460,7 +460,7 @@ void BodyTypeAdministrationTab::applySelectDeselectRules(int deselectColumn)
 {
     const TargetSearch::Widgets &w = targetSearch->widgets();
     const BodyTypeEntry *e = entry(w.bodyType);
-    QTableWidget *bodies = e ? e->table : nullptr;
+    QTableWidget *bodies = w.bodyTable;
     if (deselectColumn < 0 && e)
         deselectColumn = e->columnOf(NameColumn);
     const bool idle = w.start && w.start->isEnabled();
@@ -503,6 +503,57 @@ void BodyTypeAdministrationTab::selectTarget(int bodyRow, int targetRow, const Q
     assignTarget(bodyRow, targetRow);
     update_tab();
     targetAssigned(targetId);
+}
+
+void BodyTypeAdministrationTab::selectCurrentTarget(bool firstTargetWhenNone)
+{
+    const TargetSearch::Widgets &w = targetSearch->widgets();
+    const BodyTypeEntry *e = entry(w.bodyType);
+    if (!e || !w.bodyTable || w.bodyTable->currentRow() < 0)
+        return;
+    assignBodyRow = w.bodyTable->currentRow();
+    assignTargetRow = w.targetTable ? w.targetTable->currentRow() : -1;
+    if (firstTargetWhenNone)
+        assignTargetRow = qMax(assignTargetRow, 0);
+    const QTableWidgetItem *name = w.bodyTable->item(assignBodyRow, e->columnOf(NameColumn));
+    selectTarget(assignBodyRow, assignTargetRow, name ? name->text() : QString());
+}
+
+void BodyTypeAdministrationTab::deselectCurrentTarget()
+{
+    const QTableWidget *bodies = targetSearch->widgets().bodyTable;
+    if (bodies && bodies->currentRow() >= 0)
+        deselectTarget(bodies->currentRow());
+}
+
+void BodyTypeAdministrationTab::showCategory(const QString &group)
+{
+    targetStatus.refreshCalibratedOfGroup(targetSearch->widgets().targetType, group);
+    fillTargetTable(group);
+    applySelectionRules();
+}
+
+void BodyTypeAdministrationTab::beginRefresh()
+{
+    const TargetSearch::Widgets &w = targetSearch->widgets();
+    assignBodyRow = w.bodyTable ? qMax(w.bodyTable->currentRow(), 0) : 0;
+    assignTargetRow = w.targetTable ? w.targetTable->currentRow() : -1;
+    fillTargetTable(w.categoryCombo ? w.categoryCombo->currentText() : QString());
+}
+
+void BodyTypeAdministrationTab::endRefresh()
+{
+    const TargetSearch::Widgets &w = targetSearch->widgets();
+    if (w.bodyTable && assignBodyRow < w.bodyTable->rowCount())
+        w.bodyTable->setCurrentCell(assignBodyRow, 0);
+    if (w.targetTable && assignTargetRow >= 0 && assignTargetRow < w.targetTable->rowCount())
+        w.targetTable->setCurrentCell(assignTargetRow, 0);
+    if (w.resultLabel)
+        w.resultLabel->clear();
+    if (w.progressBar)
+        w.progressBar->setValue(0);
+    if (w.stop)
+        w.stop->setEnabled(false);
 }
 
 void BodyTypeAdministrationTab::deselectTarget(int bodyRow)
@@ -562,66 +613,9 @@ void BodyTypeAdministrationTab::refreshTargetStatus(const QString &type)
 void BodyTypeAdministrationTab::setUpBodyTable(
     QTableWidget *table, const QStringList &headers, int nameColumn)
 {
-    table->setRowCount(0);
-    table->setColumnCount(headers.size());
-    table->setHorizontalHeaderLabels(headers);
-    table->horizontalHeader()->setSectionsClickable(false);
-    table->horizontalHeader()->setStretchLastSection(true);
-    table->verticalHeader()->hide();
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    // Names are edited on a double click only.
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    BodyTableFiller::setUp(table, headers);
     if (nameColumn >= 0)
         table->setItemDelegateForColumn(nameColumn, delegate);
-}
-
-void BodyTypeAdministrationTab::stretchColumn(QTableWidget *table, int column)
-{
-    QHeaderView *header = table->horizontalHeader();
-    header->setStretchLastSection(false);
-    for (int c = 0; c < header->count(); ++c)
-        header->setSectionResizeMode(
-            c, c == column ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
-}
-
-int BodyTypeAdministrationTab::maximumFromController(
-    const QString &query, const QString &type, int fallback, const QString &error)
-{
-    int maximum = fallback;
-    if (channel.getInt(query, &maximum) != 0) {
-        channel.report(error.arg(type));
-        maximum = fallback;
-    }
-    return maximum;
-}
-
-void BodyTypeAdministrationTab::sendNumberOfBodies(
-    const QString &command, const QString &type, int count, const QString &error)
-{
-    if (channel.setParameter(command.arg(count)) != 0)
-        channel.report(error.arg(type).arg(count));
-}
-
-void BodyTypeAdministrationTab::showMaximumReached(
-    QLabel *label, const QSpinBox *spinBox, const QString &text)
-{
-    label->setText(spinBox->value() >= spinBox->maximum() ? text : QString());
-}
-
-void BodyTypeAdministrationTab::switchGlobalFilterOn(
-    const QString &parameter, const QString &readError, const QString &writeError)
-{
-    if (!channel.atLeast(1, 12) || locked)
-        return;
-    QString filter;
-    if (channel.getString(parameter, &filter) != 0) {
-        channel.report(readError);
-        return;
-    }
-    if (filter == CommandText::no()
-        && channel.setParameter(parameter + QLatin1Char(' ') + CommandText::yes()) != 0)
-        channel.report(writeError);
 }
 
 void BodyTypeAdministrationTab::handOverCustomCalibration(const QString &type, int row)

@@ -118,17 +118,6 @@ protected:
     // Header not clickable, no vertical header, single whole rows, and the
     // name delegate on the name column.
     void setUpBodyTable(QTableWidget *table, const QStringList &headers, int nameColumn);
-    // The name column stretches; every other column fits its contents.
-    static void stretchColumn(QTableWidget *table, int column);
-    // The controller's maximum, or the fallback after the error report.
-    int maximumFromController(
-        const QString &query, const QString &type, int fallback, const QString &error);
-    void sendNumberOfBodies(
-        const QString &command, const QString &type, int count, const QString &error);
-    static void showMaximumReached(QLabel *label, const QSpinBox *spinBox, const QString &text);
-    // Switches a type's global 6DOF filter back on (from 1.12, unlocked).
-    void switchGlobalFilterOn(
-        const QString &parameter, const QString &readError, const QString &writeError);
     // Hides the dialog and hands the body to the custom calibration.
     void handOverCustomCalibration(const QString &type, int row);
 
@@ -139,6 +128,16 @@ protected:
     // the tab check for conflicts, assigns and refreshes the tab.
     void selectTarget(int bodyRow, int targetRow, const QString &bodyName);
     void deselectTarget(int bodyRow);
+    // The Select and Deselect buttons on the current rows. Without a current
+    // target row some tabs take the first, the others none.
+    void selectCurrentTarget(bool firstTargetWhenNone);
+    void deselectCurrentTarget();
+    // The category combo: the targets of a group, their used state read anew.
+    void showCategory(const QString &group);
+    // Around the base's update_tab: keep the current body and target rows
+    // across the reload, then reset the search widgets.
+    void beginRefresh();
+    void endRefresh();
     bool confirmOverwrite(const QString &bodyName);
     bool assignTarget(int bodyRow, int targetRow);
     void removeTarget(int bodyRow);
@@ -163,6 +162,8 @@ protected:
     int selectedIndex = -1;
     TargetSearch *targetSearch;
     QWidget *dialog; // the owning dialog, hidden during a hand-over
+    int assignBodyRow = 0; // rows of the Select under way or of the refresh
+    int assignTargetRow = -1;
     EditDelegate *delegate;
 
 private:

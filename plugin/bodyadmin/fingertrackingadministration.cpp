@@ -29,6 +29,7 @@ FingertrackingAdministration::FingertrackingAdministration(IOManager *ioManager,
     widgets.progressBar = ui->progressBar;
     widgets.resultLabel = ui->label_targetlibrary;
     widgets.targetTable = ui->tableWidget_targetlibrary;
+    widgets.bodyTable = ui->tableWidget_fingertracking;
     widgets.bodyType = Fingertracking;
     widgets.targetType = Fingertracking;
     // Kept: at the start of a search the Deselect rule looks at "Delete".
@@ -94,48 +95,37 @@ int FingertrackingAdministration::maxNumberOfBodies(const QString &btype)
 {
     if (btype != Fingertracking)
         return DefaultMaximum;
-    return maximumFromController(QStringLiteral("fingertracking max_number_of_hands"), btype,
+    return loader.maximum(QStringLiteral("fingertracking max_number_of_hands"), btype,
         DefaultMaximum, tr("Error: Unable to get max number of %1 hand bodies"));
 }
 
 void FingertrackingAdministration::setNumberOfBodies(const QString &btype, int count)
 {
     if (btype == Fingertracking)
-        sendNumberOfBodies(QStringLiteral("fingertracking number_of_hands %1"), btype, count,
-            tr("Error: Unable to set number of %1 hand bodies to %2"));
+        operations.setNumberOfBodies(QStringLiteral("fingertracking number_of_hands %1"), btype,
+            count, tr("Error: Unable to set number of %1 hand bodies to %2"));
 }
 
 void FingertrackingAdministration::resizeEvent(QResizeEvent *event)
 {
-    stretchColumn(ui->tableWidget_fingertracking, NameCol);
+    BodyTableFiller::stretchColumn(ui->tableWidget_fingertracking, NameCol);
     QWidget::resizeEvent(event);
 }
 
 void FingertrackingAdministration::updateView()
 {
-    showMaximumReached(ui->label_error_fingertracking, ui->spinBox_fingertracking,
+    BodyTableFiller::showMaximumReached(ui->label_error_fingertracking, ui->spinBox_fingertracking,
         tr("<b><font color=red>Max. number of Hands is reached!</font></b>"));
-    stretchColumn(ui->tableWidget_fingertracking, NameCol);
+    BodyTableFiller::stretchColumn(ui->tableWidget_fingertracking, NameCol);
 }
 
 void FingertrackingAdministration::update_tab()
 {
-    QTableWidget *hands = ui->tableWidget_fingertracking;
-    QTableWidget *targets = ui->tableWidget_targetlibrary;
-    assignBodyRow = qMax(hands->currentRow(), 0);
-    const int keptTargetRow = targets->currentRow();
-    fillTargetTable(QString());
+    beginRefresh();
     testAvailability();
     ui->label_error->setVisible(!fingertrackingAvailable);
-
     BodyTypeAdministrationTab::update_tab();
-    if (assignBodyRow < hands->rowCount())
-        hands->setCurrentCell(assignBodyRow, 0);
-    if (keptTargetRow >= 0 && keptTargetRow < targets->rowCount())
-        targets->setCurrentCell(keptTargetRow, 0);
-    ui->label_targetlibrary->clear();
-    ui->progressBar->setValue(0);
-    ui->pushButton_stop->setEnabled(false);
+    endRefresh();
 }
 
 void FingertrackingAdministration::on_tableWidget_fingertracking_itemSelectionChanged()
@@ -145,19 +135,12 @@ void FingertrackingAdministration::on_tableWidget_fingertracking_itemSelectionCh
 
 void FingertrackingAdministration::on_pushButton_select_clicked()
 {
-    QTableWidget *hands = ui->tableWidget_fingertracking;
-    if (hands->currentRow() < 0)
-        return;
-    assignBodyRow = hands->currentRow();
-    assignTargetRow = ui->tableWidget_targetlibrary->currentRow();
-    const QTableWidgetItem *name = hands->item(assignBodyRow, NameCol);
-    selectTarget(assignBodyRow, assignTargetRow, name ? name->text() : QString());
+    selectCurrentTarget(false);
 }
 
 void FingertrackingAdministration::on_pushButton_deselect_clicked()
 {
-    if (ui->tableWidget_fingertracking->currentRow() >= 0)
-        deselectTarget(ui->tableWidget_fingertracking->currentRow());
+    deselectCurrentTarget();
 }
 
 void FingertrackingAdministration::on_pushButton_start_clicked()

@@ -50,8 +50,6 @@ private:
 
     Ui::FingertrackingAdministrationClass *ui;
     bool fingertrackingAvailable = false;
-    int assignBodyRow = 0;
-    int assignTargetRow = -1;
 };
 
 #endif // FINGERTRACKINGADMINISTRATION_H

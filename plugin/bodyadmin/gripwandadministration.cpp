@@ -46,6 +46,7 @@ GripwandAdministration::GripwandAdministration(IOManager *ioManager, QWidget *pa
     widgets.progressBar = ui->progressBar;
     widgets.resultLabel = ui->label_targetlibrary;
     widgets.targetTable = ui->tableWidget_targetlibrary;
+    widgets.bodyTable = ui->tableWidget_gripwand;
     widgets.bodyType = Gripwand;
     widgets.targetType = Gripwand;
     // Kept: at the start of a search the Deselect rule looks at "Serial".
@@ -82,14 +83,14 @@ int GripwandAdministration::currentRow() const
 int GripwandAdministration::maxNumberOfBodies(const QString &btype)
 {
     // Heads follow the Gripwands, so every type gets the Gripwand maximum.
-    return maximumFromController(QStringLiteral("gripwand max_number_of_devices"), btype,
-        DefaultMaximum, tr("Error: Unable to get max number of %1 bodies"));
+    return loader.maximum(QStringLiteral("gripwand max_number_of_devices"), btype, DefaultMaximum,
+        tr("Error: Unable to get max number of %1 bodies"));
 }
 
 void GripwandAdministration::setNumberOfBodies(const QString &btype, int count)
 {
     if (btype == Gripwand)
-        sendNumberOfBodies(QStringLiteral("gripwand number_of_devices %1"), btype, count,
+        operations.setNumberOfBodies(QStringLiteral("gripwand number_of_devices %1"), btype, count,
             tr("Error: Unable to set number of %1 bodies to %2"));
 }
 
@@ -181,9 +182,9 @@ void GripwandAdministration::ON_spinBox_gripwands_valueChanged(int num)
 
 void GripwandAdministration::applyHeaderModes()
 {
-    stretchColumn(ui->tableWidget_gripwand, NameCol);
+    BodyTableFiller::stretchColumn(ui->tableWidget_gripwand, NameCol);
     if (ui->tableWidget_head->rowCount() > 0)
-        stretchColumn(ui->tableWidget_head, 1);
+        BodyTableFiller::stretchColumn(ui->tableWidget_head, 1);
 }
 
 void GripwandAdministration::resizeEvent(QResizeEvent *event)
@@ -194,7 +195,7 @@ void GripwandAdministration::resizeEvent(QResizeEvent *event)
 
 void GripwandAdministration::updateView()
 {
-    showMaximumReached(ui->label_error, ui->spinBox_gripwands,
+    BodyTableFiller::showMaximumReached(ui->label_error, ui->spinBox_gripwands,
         tr("<b><font color=red>Max. number of gripwands is reached!</font></b>"));
     applyHeaderModes();
     emit selection_changed();
@@ -202,11 +203,7 @@ void GripwandAdministration::updateView()
 
 void GripwandAdministration::update_tab()
 {
-    QTableWidget *gripwands = ui->tableWidget_gripwand;
-    QTableWidget *targets = ui->tableWidget_targetlibrary;
-    assignBodyRow = qMax(gripwands->currentRow(), 0);
-    const int keptTargetRow = targets->currentRow();
-    fillTargetTable(QString());
+    beginRefresh();
     selectedType = Gripwand;
     selectedIndex = assignBodyRow;
 
@@ -223,21 +220,16 @@ void GripwandAdministration::update_tab()
     ui->tableWidget_head->setVisible(headShown);
 
     BodyTypeAdministrationTab::update_tab();
-    if (assignBodyRow < gripwands->rowCount())
-        gripwands->setCurrentCell(assignBodyRow, 0);
-    if (keptTargetRow >= 0 && keptTargetRow < targets->rowCount())
-        targets->setCurrentCell(keptTargetRow, 0);
-    ui->label_targetlibrary->clear();
-    ui->progressBar->setValue(0);
-    ui->pushButton_stop->setEnabled(false);
+    endRefresh();
     ui->pushButton_filter->setEnabled(canFilterSelected());
 }
 
 void GripwandAdministration::ON_activeConfigurationChanged()
 {
-    switchGlobalFilterOn(QStringLiteral("gripwand filter"),
-        tr("Error: Unable to get global filter6d status of Gripwand bodies"),
-        tr("Error: Unable to set global filter6d status of Gripwand bodies"));
+    if (!locked)
+        operations.switchGlobalFilterOn(QStringLiteral("gripwand filter"),
+            tr("Error: Unable to get global filter6d status of Gripwand bodies"),
+            tr("Error: Unable to set global filter6d status of Gripwand bodies"));
 }
 
 // Buttons.
@@ -250,19 +242,12 @@ void GripwandAdministration::on_tableWidget_gripwand_itemSelectionChanged()
 
 void GripwandAdministration::on_pushButton_select_clicked()
 {
-    QTableWidget *gripwands = ui->tableWidget_gripwand;
-    if (gripwands->currentRow() < 0)
-        return;
-    assignBodyRow = gripwands->currentRow();
-    assignTargetRow = ui->tableWidget_targetlibrary->currentRow();
-    const QTableWidgetItem *name = gripwands->item(assignBodyRow, NameCol);
-    selectTarget(assignBodyRow, assignTargetRow, name ? name->text() : QString());
+    selectCurrentTarget(false);
 }
 
 void GripwandAdministration::on_pushButton_deselect_clicked()
 {
-    if (ui->tableWidget_gripwand->currentRow() >= 0)
-        deselectTarget(ui->tableWidget_gripwand->currentRow());
+    deselectCurrentTarget();
 }
 
 void GripwandAdministration::on_pushButton_calibration_clicked()

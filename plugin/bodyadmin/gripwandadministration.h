@@ -72,8 +72,6 @@ private:
     Ui::GripwandAdministrationClass *ui;
     bool filterAvailable = false;
     bool headShown = false;
-    int assignBodyRow = 0;
-    int assignTargetRow = -1;
 };
 
 #endif // GRIPWANDADMINISTRATION_H

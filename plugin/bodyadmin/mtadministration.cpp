@@ -45,6 +45,7 @@ MtAdministration::MtAdministration(IOManager *ioManager, QWidget *parent,
     widgets.progressBar = ui->progressBar;
     widgets.resultLabel = ui->label_targetlibrary;
     widgets.targetTable = ui->tableWidget_targetlibrary;
+    widgets.bodyTable = ui->tableWidget_mtref;
     widgets.categoryCombo = ui->comboBox_filter;
     widgets.bodyType = Reference;
     widgets.targetType = Standard; // references sit on standard targets
@@ -112,11 +113,11 @@ int MtAdministration::maxNumberOfBodies(const QString &btype)
 {
     const QString error = tr("Error: Unable to get max number of %1 bodies");
     if (btype == Tool)
-        return maximumFromController(
+        return loader.maximum(
             QStringLiteral("measurementtool max_number_of_tools"), btype, DefaultMaximum, error);
     if (btype == Reference)
-        return maximumFromController(QStringLiteral("measurementtool max_number_of_references"),
-            btype, DefaultMaximum, error);
+        return loader.maximum(QStringLiteral("measurementtool max_number_of_references"), btype,
+            DefaultMaximum, error);
     return DefaultMaximum;
 }
 
@@ -124,17 +125,17 @@ void MtAdministration::setNumberOfBodies(const QString &btype, int count)
 {
     const QString error = tr("Error: Unable to set number of %1 bodies to %2");
     if (btype == Tool)
-        sendNumberOfBodies(
+        operations.setNumberOfBodies(
             QStringLiteral("measurementtool number_of_tools %1"), btype, count, error);
     else if (btype == Reference)
-        sendNumberOfBodies(
+        operations.setNumberOfBodies(
             QStringLiteral("measurementtool number_of_references %1"), btype, count, error);
 }
 
 void MtAdministration::applyHeaderModes()
 {
-    stretchColumn(ui->tableWidget_mt, LinkCol);
-    stretchColumn(ui->tableWidget_mtref, LinkCol);
+    BodyTableFiller::stretchColumn(ui->tableWidget_mt, LinkCol);
+    BodyTableFiller::stretchColumn(ui->tableWidget_mtref, LinkCol);
 }
 
 void MtAdministration::resizeEvent(QResizeEvent *event)
@@ -145,9 +146,9 @@ void MtAdministration::resizeEvent(QResizeEvent *event)
 
 void MtAdministration::updateView()
 {
-    showMaximumReached(ui->label_error_mt, ui->spinBox_mt,
+    BodyTableFiller::showMaximumReached(ui->label_error_mt, ui->spinBox_mt,
         tr("<b><font color=red>Max. number of Measurement Tools is reached!</font></b>"));
-    showMaximumReached(ui->label_error_mtref, ui->spinBox_mtref,
+    BodyTableFiller::showMaximumReached(ui->label_error_mtref, ui->spinBox_mtref,
         tr("<b><font color=red>Max. number of Measurement references is reached!</font></b>"));
     applyHeaderModes();
 }
@@ -324,34 +325,23 @@ bool MtAdministration::resolveTargetConflict(const QString &shortName)
 
 void MtAdministration::on_pushButton_select_clicked()
 {
-    QTableWidget *references = ui->tableWidget_mtref;
-    const int row = references->currentRow();
-    if (row < 0)
-        return;
-    const QTableWidgetItem *name = references->item(row, LinkCol);
-    selectTarget(row, ui->tableWidget_targetlibrary->currentRow(), name ? name->text() : QString());
+    selectCurrentTarget(false);
 }
 
 void MtAdministration::on_pushButton_deselect_clicked()
 {
-    if (ui->tableWidget_mtref->currentRow() >= 0)
-        deselectTarget(ui->tableWidget_mtref->currentRow());
+    deselectCurrentTarget();
 }
 
 void MtAdministration::on_comboBox_filter_currentIndexChanged(const QString &group)
 {
-    targetStatus.refreshCalibratedOfGroup(Standard, group);
-    fillTargetTable(group);
-    applySelectionRules();
+    showCategory(group);
 }
 
 // Target search.
 
 void MtAdministration::on_pushButton_start_clicked()
 {
-    QComboBox *combo = ui->comboBox_filter;
-    if (combo->currentText() != TargetStatus::FoundTargets)
-        combo->setCurrentIndex(combo->findText(TargetStatus::FoundTargets));
     targetSearch->start();
 }
 

@@ -47,6 +47,7 @@ StandardAdministration::StandardAdministration(IOManager *ioManager, QWidget *pa
     widgets.progressBar = ui->progressBar;
     widgets.resultLabel = ui->label_targetlibrary;
     widgets.targetTable = ui->tableWidget_targetlibrary;
+    widgets.bodyTable = ui->tableWidget_standard;
     widgets.categoryCombo = ui->comboBox_filter;
     widgets.bodyType = Standard;
     widgets.targetType = Standard;
@@ -80,12 +81,6 @@ int StandardAdministration::currentRow() const
     return ui->tableWidget_standard->currentRow();
 }
 
-QString StandardAdministration::bodyName(int row) const
-{
-    const QTableWidgetItem *item = ui->tableWidget_standard->item(row, NameCol);
-    return item ? item->text() : QString();
-}
-
 void StandardAdministration::fillCategories()
 {
     const QSignalBlocker blocker(ui->comboBox_filter);
@@ -100,14 +95,14 @@ int StandardAdministration::maxNumberOfBodies(const QString &btype)
 {
     if (btype != Standard)
         return 0;
-    return maximumFromController(QStringLiteral("standard max_number_of_bodies"), btype,
-        DefaultMaximum, tr("Error: Unable to get max number of %1 bodies"));
+    return loader.maximum(QStringLiteral("standard max_number_of_bodies"), btype, DefaultMaximum,
+        tr("Error: Unable to get max number of %1 bodies"));
 }
 
 void StandardAdministration::setNumberOfBodies(const QString &btype, int count)
 {
     if (btype == Standard)
-        sendNumberOfBodies(QStringLiteral("standard number_of_bodies %1"), btype, count,
+        operations.setNumberOfBodies(QStringLiteral("standard number_of_bodies %1"), btype, count,
             tr("Error: Unable to set number of %1 bodies to %2"));
 }
 
@@ -120,7 +115,7 @@ void StandardAdministration::updateColumnsAndStatus()
             [](const BodyRecord &body) { return body.hasInertialSensor(); });
     ui->tableWidget_standard->setColumnHidden(ModelCol, !sensors);
     ui->tableWidget_standard->setColumnHidden(DeviceCol, !sensors);
-    showMaximumReached(ui->label_error, ui->spinBox_standard_bodies,
+    BodyTableFiller::showMaximumReached(ui->label_error, ui->spinBox_standard_bodies,
         tr("<b><font color=red>Max. number of bodies is reached!</font></b>"));
     emit selection_changed();
 }
@@ -141,28 +136,17 @@ void StandardAdministration::updateView()
 
 void StandardAdministration::resizeEvent(QResizeEvent *event)
 {
-    stretchColumn(ui->tableWidget_standard, NameCol);
+    BodyTableFiller::stretchColumn(ui->tableWidget_standard, NameCol);
     QWidget::resizeEvent(event);
 }
 
 void StandardAdministration::update_tab()
 {
-    QTableWidget *bodies = ui->tableWidget_standard;
-    QTableWidget *targets = ui->tableWidget_targetlibrary;
-    assignBodyRow = qMax(bodies->currentRow(), 0);
-    const int keptTargetRow = targets->currentRow();
-    fillTargetTable(ui->comboBox_filter->currentText());
+    beginRefresh();
     selectedType = Standard;
     selectedIndex = assignBodyRow;
     BodyTypeAdministrationTab::update_tab();
-
-    if (assignBodyRow < bodies->rowCount())
-        bodies->setCurrentCell(assignBodyRow, 0);
-    if (keptTargetRow >= 0 && keptTargetRow < targets->rowCount())
-        targets->setCurrentCell(keptTargetRow, 0);
-    ui->progressBar->setValue(0);
-    ui->pushButton_stop->setEnabled(false);
-    ui->label_targetlibrary->clear();
+    endRefresh();
     ui->pushButton_filter->setEnabled(canFilterSelected());
 }
 
@@ -257,9 +241,10 @@ void StandardAdministration::updateExtraColumn(
 
 void StandardAdministration::ON_activeConfigurationChanged()
 {
-    switchGlobalFilterOn(QStringLiteral("standard filter_bodies"),
-        tr("Error: Unable to get global filter6d status of standard bodies"),
-        tr("Error: Unable to set global filter6d status of standard bodies"));
+    if (!locked)
+        operations.switchGlobalFilterOn(QStringLiteral("standard filter_bodies"),
+            tr("Error: Unable to get global filter6d status of standard bodies"),
+            tr("Error: Unable to set global filter6d status of standard bodies"));
 }
 
 // Target assignment.
@@ -310,17 +295,12 @@ void StandardAdministration::targetAssigned(const QString &targetId)
 
 void StandardAdministration::on_pushButton_select_clicked()
 {
-    if (ui->tableWidget_standard->currentRow() < 0)
-        return;
-    assignBodyRow = ui->tableWidget_standard->currentRow();
-    assignTargetRow = qMax(ui->tableWidget_targetlibrary->currentRow(), 0);
-    selectTarget(assignBodyRow, assignTargetRow, bodyName(assignBodyRow));
+    selectCurrentTarget(true);
 }
 
 void StandardAdministration::on_pushButton_deselect_clicked()
 {
-    if (ui->tableWidget_standard->currentRow() >= 0)
-        deselectTarget(ui->tableWidget_standard->currentRow());
+    deselectCurrentTarget();
 }
 
 void StandardAdministration::on_pushButton_customCalibration_clicked()
@@ -339,18 +319,13 @@ void StandardAdministration::on_pushButton_filter_clicked()
 
 void StandardAdministration::on_comboBox_filter_currentIndexChanged(const QString &group)
 {
-    targetStatus.refreshCalibratedOfGroup(Standard, group);
-    fillTargetTable(group);
-    applySelectionRules();
+    showCategory(group);
 }
 
 // Target search.
 
 void StandardAdministration::on_pushButton_start_clicked()
 {
-    QComboBox *combo = ui->comboBox_filter;
-    if (combo->currentText() != TargetStatus::FoundTargets)
-        combo->setCurrentIndex(combo->findText(TargetStatus::FoundTargets));
     targetSearch->start();
 }
 

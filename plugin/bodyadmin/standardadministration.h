@@ -72,13 +72,10 @@ private:
     void updateColumnsAndStatus();
     void updateMoveButtons();
     void fillCategories();
-    QString bodyName(int row) const;
 
     Ui::StandardAdministrationClass *ui;
     bool filterAvailable = false;
     int targetRow = -1;
-    int assignBodyRow = 0;
-    int assignTargetRow = 0;
 };
 
 #endif // STANDARDADMINISTRATION_H

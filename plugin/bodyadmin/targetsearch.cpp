@@ -84,6 +84,11 @@ void TargetSearch::announce(int count)
 
 void TargetSearch::start()
 {
+    // A search shows what it finds.
+    QComboBox *combo = m_widgets.categoryCombo;
+    if (combo && combo->currentText() != TargetStatus::FoundTargets)
+        combo->setCurrentIndex(combo->findText(TargetStatus::FoundTargets));
+
     const QString refused = tr("Error: Unable to start target library calibration");
     if (!CommandText::isYes(m_channel.stringOf(QStringLiteral("cal available targetlib")))) {
         m_channel.report(refused + tr(". Calibration type is not available"));

@@ -35,6 +35,7 @@ public:
         QProgressBar *progressBar = nullptr;
         QLabel *resultLabel = nullptr;
         QTableWidget *targetTable = nullptr;
+        QTableWidget *bodyTable = nullptr; // the bodies that get targets assigned
         QComboBox *categoryCombo = nullptr; // null: the table lists every category
         QString bodyType; // the type whose bodies get targets assigned
         QString targetType; // the body type of the listed library targets
