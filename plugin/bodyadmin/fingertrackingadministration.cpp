@@ -21,14 +21,7 @@ FingertrackingAdministration::FingertrackingAdministration(IOManager *ioManager,
         { tr("ID"), tr("Active"), tr("Name"), tr("Calibration"), tr("Delete"), tr("Reset") },
         NameCol);
 
-    TargetSearch::Widgets widgets;
-    widgets.start = ui->pushButton_start;
-    widgets.stop = ui->pushButton_stop;
-    widgets.select = ui->pushButton_select;
-    widgets.deselect = ui->pushButton_deselect;
-    widgets.progressBar = ui->progressBar;
-    widgets.resultLabel = ui->label_targetlibrary;
-    widgets.targetTable = ui->tableWidget_targetlibrary;
+    TargetSearch::Widgets widgets = TargetSearch::Widgets::ofForm(this);
     widgets.bodyTable = ui->tableWidget_fingertracking;
     widgets.bodyType = Fingertracking;
     widgets.targetType = Fingertracking;
@@ -36,7 +29,6 @@ FingertrackingAdministration::FingertrackingAdministration(IOManager *ioManager,
     widgets.deselectColumnAtStart = DeleteCol;
     widgets.recountAtEnd = false;
     setSearchWidgets(widgets);
-    ui->pushButton_stop->setEnabled(false);
 
     testAvailability();
 }

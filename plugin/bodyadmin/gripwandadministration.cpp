@@ -38,14 +38,7 @@ GripwandAdministration::GripwandAdministration(IOManager *ioManager, QWidget *pa
     ui->tableWidget_gripwand->setColumnHidden(FilterCol, !filterAvailable);
     reloadBodies(Gripwand);
 
-    TargetSearch::Widgets widgets;
-    widgets.start = ui->pushButton_start;
-    widgets.stop = ui->pushButton_stop;
-    widgets.select = ui->pushButton_select;
-    widgets.deselect = ui->pushButton_deselect;
-    widgets.progressBar = ui->progressBar;
-    widgets.resultLabel = ui->label_targetlibrary;
-    widgets.targetTable = ui->tableWidget_targetlibrary;
+    TargetSearch::Widgets widgets = TargetSearch::Widgets::ofForm(this);
     widgets.bodyTable = ui->tableWidget_gripwand;
     widgets.bodyType = Gripwand;
     widgets.targetType = Gripwand;
@@ -53,7 +46,6 @@ GripwandAdministration::GripwandAdministration(IOManager *ioManager, QWidget *pa
     widgets.deselectColumnAtStart = SerialCol;
     widgets.recountAtEnd = false;
     setSearchWidgets(widgets);
-    ui->pushButton_stop->setEnabled(false);
     fillTargetTable(QString());
 
     ui->label_head->hide();

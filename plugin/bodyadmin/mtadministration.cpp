@@ -37,22 +37,13 @@ MtAdministration::MtAdministration(IOManager *ioManager, QWidget *parent,
         { tr("ID"), tr("Active"), tr("Name"), tr("Calibration"), tr("Delete"), tr("Reset") },
         LinkCol);
 
-    TargetSearch::Widgets widgets;
-    widgets.start = ui->pushButton_start;
-    widgets.stop = ui->pushButton_stop;
-    widgets.select = ui->pushButton_select;
-    widgets.deselect = ui->pushButton_deselect;
-    widgets.progressBar = ui->progressBar;
-    widgets.resultLabel = ui->label_targetlibrary;
-    widgets.targetTable = ui->tableWidget_targetlibrary;
+    TargetSearch::Widgets widgets = TargetSearch::Widgets::ofForm(this);
     widgets.bodyTable = ui->tableWidget_mtref;
-    widgets.categoryCombo = ui->comboBox_filter;
     widgets.bodyType = Reference;
     widgets.targetType = Standard; // references sit on standard targets
     // Kept: at the start of a search the Deselect rule looks at "Delete".
     widgets.deselectColumnAtStart = DeleteCol;
     setSearchWidgets(widgets);
-    ui->pushButton_stop->setEnabled(false);
     targetRow = ui->tableWidget_targetlibrary->currentRow();
 
     {

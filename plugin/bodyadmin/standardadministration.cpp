@@ -39,22 +39,13 @@ StandardAdministration::StandardAdministration(IOManager *ioManager, QWidget *pa
     ui->tableWidget_standard->setColumnHidden(FilterCol, !filterAvailable);
     reloadBodies(Standard);
 
-    TargetSearch::Widgets widgets;
-    widgets.start = ui->pushButton_start;
-    widgets.stop = ui->pushButton_stop;
-    widgets.select = ui->pushButton_select;
-    widgets.deselect = ui->pushButton_deselect;
-    widgets.progressBar = ui->progressBar;
-    widgets.resultLabel = ui->label_targetlibrary;
-    widgets.targetTable = ui->tableWidget_targetlibrary;
+    TargetSearch::Widgets widgets = TargetSearch::Widgets::ofForm(this);
     widgets.bodyTable = ui->tableWidget_standard;
-    widgets.categoryCombo = ui->comboBox_filter;
     widgets.bodyType = Standard;
     widgets.targetType = Standard;
     // Kept: at the start of a search the Deselect rule looks at "Model".
     widgets.deselectColumnAtStart = ModelCol;
     setSearchWidgets(widgets);
-    ui->pushButton_stop->setEnabled(false);
 
     fillCategories();
     fillTargetTable(ui->comboBox_filter->currentText());

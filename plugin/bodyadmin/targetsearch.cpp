@@ -25,9 +25,27 @@ TargetSearch::TargetSearch(
     m_statusTimer.setInterval(StatusInterval);
 }
 
+TargetSearch::Widgets TargetSearch::Widgets::ofForm(const QWidget *form)
+{
+    Widgets widgets;
+    widgets.start = form->findChild<QPushButton *>(QStringLiteral("pushButton_start"));
+    widgets.stop = form->findChild<QPushButton *>(QStringLiteral("pushButton_stop"));
+    widgets.select = form->findChild<QPushButton *>(QStringLiteral("pushButton_select"));
+    widgets.deselect = form->findChild<QPushButton *>(QStringLiteral("pushButton_deselect"));
+    widgets.progressBar = form->findChild<QProgressBar *>(QStringLiteral("progressBar"));
+    widgets.resultLabel = form->findChild<QLabel *>(QStringLiteral("label_targetlibrary"));
+    widgets.targetTable
+        = form->findChild<QTableWidget *>(QStringLiteral("tableWidget_targetlibrary"));
+    widgets.categoryCombo = form->findChild<QComboBox *>(QStringLiteral("comboBox_filter"));
+    return widgets;
+}
+
 void TargetSearch::setWidgets(const Widgets &widgets)
 {
     m_widgets = widgets;
+    // Idle: Start on, Stop off.
+    if (m_widgets.stop)
+        m_widgets.stop->setEnabled(false);
     if (m_widgets.targetTable)
         TargetStatus::setUpTable(m_widgets.targetTable);
 }

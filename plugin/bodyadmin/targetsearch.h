@@ -13,6 +13,7 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 class QTableWidget;
+class QWidget;
 class TargetStatus;
 
 // The search of the tracking volume for library targets, as every tab runs
@@ -45,6 +46,10 @@ public:
         // Whether the tracked targets are counted again when a search ends,
         // or the count of the last refresh is announced.
         bool recountAtEnd = true;
+
+        // The search widgets of a tab's form, found by their object names
+        // (pushButton_start, ..., comboBox_filter where the tab has one).
+        static Widgets ofForm(const QWidget *form);
     };
 
     TargetSearch(
