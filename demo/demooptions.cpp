@@ -37,8 +37,11 @@ DemoOptions::Outcome DemoOptions::parse(
     const QCommandLineOption observerOption("observer", tr("Run the module in observer mode."));
     const QCommandLineOption screenshotOption("screenshot",
         tr("Save the main window as a PNG <file> after start-up, then quit."), tr("file"));
+    const QCommandLineOption languageOption("language",
+        tr("Show the module in <language> (for example de), as a host in that language would."),
+        tr("language"));
     parser.addOptions({ pluginOption, scenarioOption, listOption, backendOption, systemTypeOption,
-        systemVersionOption, observerOption, screenshotOption });
+        systemVersionOption, observerOption, screenshotOption, languageOption });
 
     if (!parser.parse(arguments)) {
         *message = parser.errorText();
@@ -64,6 +67,7 @@ DemoOptions::Outcome DemoOptions::parse(
         options->systemType = parser.value(systemTypeOption);
     options->observer = parser.isSet(observerOption);
     options->screenshotFile = parser.value(screenshotOption);
+    options->language = parser.value(languageOption);
 
     const struct {
         const QCommandLineOption &option;

@@ -42,6 +42,7 @@ public:
     QString systemType; // null when not given
     bool observer = false;
     QString screenshotFile;
+    QString language; // empty: the module's own English
 };
 
 #endif // DEMOOPTIONS_H

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QTextStream>
 #include <QTimer>
+#include <QTranslator>
 
 int main(int argc, char *argv[])
 {
@@ -43,6 +44,17 @@ int main(int argc, char *argv[])
     }
 
     QApplication app(argc, argv);
+    // The host installs the module's translation, as the front-end does.
+    QTranslator translator;
+    if (!options.language.isEmpty()) {
+        const QString name = QStringLiteral("tracking_") + options.language;
+        if (translator.load(name, QStringLiteral(TRACKING_TRANSLATIONS_DIR)))
+            app.installTranslator(&translator);
+        else
+            err << DemoOptions::tr("No translation %1 in %2; the module stays in English.")
+                       .arg(name, QStringLiteral(TRACKING_TRANSLATIONS_DIR))
+                << '\n';
+    }
     DemoWindow window(options);
     window.show();
     if (!options.screenshotFile.isEmpty()) {
