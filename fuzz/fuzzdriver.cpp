@@ -11,10 +11,14 @@
 #include <QFileInfo>
 
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
+
+// Present only when a sanitizer runtime is linked in.
+extern "C" void __sanitizer_set_death_callback(void (*callback)(void)) __attribute__((weak));
 
 namespace
 {
@@ -40,6 +44,7 @@ const char *const Usage
       "  --seed N            of the mutations (default 1)\n"
       "  --max-len N         longest input\n"
       "  --timeout MS        one input longer than this is a hang (default 20000)\n"
+      "  --memory-mb N       address-space limit without sanitizers (default 8192)\n"
       "  --fork              every input in a child process: collect all findings\n"
       "  --skip-known        leave out inputs that hit a known open fault\n"
       "  --artifacts DIR     where failing inputs are saved (default .)\n"
@@ -70,6 +75,8 @@ bool FuzzDriver::parseOptions(const QStringList &arguments)
             m_options.maxLength = arguments.at(++i).toInt(&ok);
         else if (argument == QLatin1String("--timeout") && hasValue)
             m_options.timeoutMs = arguments.at(++i).toInt(&ok);
+        else if (argument == QLatin1String("--memory-mb") && hasValue)
+            m_options.memoryMb = arguments.at(++i).toInt(&ok);
         else if (argument == QLatin1String("--artifacts") && hasValue)
             m_options.artifacts = arguments.at(++i);
         else if (argument == QLatin1String("--write-seeds") && hasValue)
@@ -283,6 +290,16 @@ int FuzzDriver::run(const QStringList &arguments)
     if (!m_options.writeDictionary.isEmpty())
         return writeDictionary() ? 0 : 1;
     QDir().mkpath(m_options.artifacts);
+    // A runaway input fails an allocation and aborts (its input saved)
+    // instead of taking the machine with it. Sanitizers map terabytes of
+    // shadow memory and watch the heap themselves.
+    if (m_options.memoryMb > 0 && !__sanitizer_set_death_callback) {
+        const rlim_t bytes = rlim_t(m_options.memoryMb) * 1024 * 1024;
+        const struct rlimit limit {
+            bytes, bytes
+        };
+        setrlimit(RLIMIT_AS, &limit);
+    }
     if (!m_options.fork)
         m_watchdog.start(m_options.timeoutMs);
 

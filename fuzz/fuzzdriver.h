@@ -33,6 +33,7 @@ private:
         quint64 seed = 1;
         int maxLength = 0; // 0: the target's own
         int timeoutMs = 20000; // one input
+        int memoryMb = 8192; // address space, when no sanitizer reserves its own
         bool fork = false;
         bool skipKnown = false;
         bool quiet = false;

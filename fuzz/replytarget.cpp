@@ -8,6 +8,7 @@
 #include <bodyloader.h>
 #include <bodytypeadministrationtab.h>
 #include <commandchannel.h>
+#include <filterdialog.h>
 #include <simulatedcontroller.h>
 #include <target.h>
 #include <targetlibrary.h>
@@ -28,8 +29,9 @@ namespace
 constexpr int MaxBodies = 999;
 // Every dialog opened once with every list at its longest stays well below.
 constexpr int CommandBudget = 400000;
-// Counts of the target library above this are the known fault below.
+// Counts above these are the known faults below.
 constexpr qint64 LibraryCountLimit = 100;
+constexpr qint64 FilterListLimit = 1000;
 
 const char *const BodyTypes[] = { "standard", "gripwand", "multiusergripwand_head",
     "fingertracking", "measurementtool", "measurementtool_reference" };
@@ -64,6 +66,8 @@ QList<QByteArray> ReplyTarget::seeds() const
         "open * = ",
         "once * = none\nonce * = yes\nonce * = 0",
         "reply body number_of_bodies * = 2147483647",
+        "reply body number_of_bodies gripwand = 2147483647\n"
+        "reply body number_of_bodies multiusergripwand_head = 1000",
         "reply body number_of_bodies standard = -5\nreply standard max_number_of_bodies = -5",
         "reply standard max_number_of_bodies = 2147483647\nbodies 2",
         "open body desc * = " + QByteArray(210, 'x') + "\nopen targetlib target_name * = 'T' "
@@ -94,6 +98,14 @@ QList<QByteArray> ReplyTarget::seeds() const
         "reply zemwpan device_model_desc * = \\n\nreply gripwand multiuser = yes",
         "reply body calibrated * = yes\nreply body inertial_sensor * = VX IMU 'A1234'\n"
         "reply inertial available = yes\nreply inertial sensor_present * = yes",
+        "reply status step_active = cal targetlib\nreply status progress = 1e308\n"
+        "reply targetlib target_status_tracked * = yes",
+        "reply status step_active = cal\nreply status progress = -nan\n"
+        "once status active = none\nreply targetlib target_bodytype * = 'gripwand'",
+        "reply filter6d number_of_presets = 2147483647",
+        "reply filter6d number_of_modes = 3\nreply filter6d mode_id * = \"\"\n"
+        "reply filter6d limit prediction_max = 1e308\nreply filter6d limit strength_min = nan\n"
+        "reply body filter6d_enabled * = yes\nreply body calibrated * = yes",
     };
 }
 
@@ -118,7 +130,11 @@ QList<QByteArray> ReplyTarget::dictionary() const
         "cal available targetlib", "status active", "standard fixed_angle *",
         "standard calculate_marker", "tracking auto_restart", "tracking axis_5dof_central",
         "tracking pulse", "gripwand number_of_devices", "gripwand device *", "gripwand multiuser",
-        "fingertracking available", "measurementtool available" };
+        "fingertracking available", "measurementtool available", "status step_active",
+        "status progress", "targetlib target_status_tracked *", "cal targetlib",
+        "filter6d number_of_presets", "filter6d preset_id *", "filter6d number_of_modes",
+        "filter6d mode_id *", "filter6d limit *", "body filter6d_preset_available *",
+        "body filter6d_mode_available *" };
 }
 
 void ReplyTarget::checkReports(
@@ -251,8 +267,14 @@ void ReplyTarget::checkDialogs(SimulatedController &controller, QStringList *fai
                 continue;
             tab->update_tab();
             checkTab(key, tab, failures);
+            search(tab);
         }
         dialog.update_and_exec();
+    }
+    for (int tabIndex : { 0, 1 }) {
+        const ModalCloser closer;
+        FilterDialog dialog(&controller, nullptr, &controller.backendVersions());
+        dialog.update_and_exec(tabIndex, tabIndex - 1);
     }
     {
         const ModalCloser closer;
@@ -263,6 +285,18 @@ void ReplyTarget::checkDialogs(SimulatedController &controller, QStringList *fai
     for (const QString &report : controller.reports()) {
         if (report.trimmed().isEmpty())
             *failures << QStringLiteral("an empty report");
+    }
+}
+
+// A target search as the user runs it, with the timer steps taken at once:
+// start, a few measurement steps, a refresh, assign, stop.
+void ReplyTarget::search(BodyTypeAdministrationTab *tab)
+{
+    for (const char *slot : { "on_pushButton_start_clicked", "doMeasurement_tl", "doMeasurement_tl",
+             "updateTrackedAndAcceptStatus_tl", "doMeasurement_tl", "on_pushButton_select_clicked",
+             "on_pushButton_stop_clicked", "about_to_exit" }) {
+        if (tab->metaObject()->indexOfMethod(QByteArray(slot) + "()") >= 0)
+            QMetaObject::invokeMethod(tab, slot, Qt::DirectConnection);
     }
 }
 
@@ -289,13 +323,25 @@ QStringList ReplyTarget::run(const QByteArray &input)
     controller.setManualClock(true);
     plan.applyTo(controller);
 
+    qint64 commands = 0;
+    QObject::connect(
+        &controller, &SimulatedController::logged, [&](const SimulatedController::LogEntry &entry) {
+            if (entry.kind != SimulatedController::LogEntry::Command
+                && entry.kind != SimulatedController::LogEntry::Query
+                && entry.kind != SimulatedController::LogEntry::Setting)
+                return;
+            // Past the budget the input has failed already; keep the log
+            // from eating the machine until the loop ends or the watchdog
+            // calls it a hang.
+            if (++commands > CommandBudget && controller.log().size() > 10000)
+                controller.clearLog();
+        });
+
     // Each stage empties the log first; its commands are checked after it.
-    int commands = 0;
     for (const auto stage :
         { &ReplyTarget::checkLibrary, &ReplyTarget::checkLoader, &ReplyTarget::checkDialogs }) {
         stage(controller, &failures);
         checkCommands(controller, &failures);
-        commands += controller.commands().size();
     }
     if (commands > CommandBudget)
         failures << QStringLiteral("%1 commands to load everything once").arg(commands);
@@ -308,6 +354,10 @@ QString ReplyTarget::knownFault(const QByteArray &input) const
     const ReplyPlan plan = ReplyPlan::parse(input);
     if (plan.claimsMoreThan(QStringLiteral("targetlib number_of_"), LibraryCountLimit))
         return QStringLiteral("the target library loops over any count the controller claims");
+    if (plan.claimsMoreThan(QStringLiteral("filter6d number_of_"), FilterListLimit)
+        || plan.claimsMoreThan(QStringLiteral("body number_of_bodies standard"), MaxBodies)
+        || plan.claimsMoreThan(QStringLiteral("gripwand number_of_devices"), MaxBodies))
+        return QStringLiteral("the filter dialog loops over any count the controller claims");
     if (plan.repliesWithLineBreaks())
         return QStringLiteral("reply text goes into commands with its line breaks");
     return QString();

@@ -13,8 +13,9 @@ struct BodyRecord;
 
 // Controller replies into the module: the input doctors the simulated
 // controller (see ReplyPlan), then the target library is loaded, bodies are
-// read, the body administration dialog is built, reloaded and opened, and
-// the tracking settings dialog is opened. Whatever the replies, every text
+// read, the body administration dialog is built, reloaded and opened, each
+// tab runs a target search, and the filter and tracking settings dialogs are
+// opened. Whatever the replies, every text
 // the module keeps must be cleaned of its quotes, body lists stay within
 // the ids the controller can name, tables match their lists, commands stay
 // one line each, failures are reported as errors, and the number of
@@ -36,6 +37,7 @@ private:
     static void checkRecord(const QString &where, const BodyRecord &body, QStringList *failures);
     static void checkTab(int key, const BodyTypeAdministrationTab *tab, QStringList *failures);
     static void checkDialogs(SimulatedController &controller, QStringList *failures);
+    static void search(BodyTypeAdministrationTab *tab);
     static void checkReports(
         const SimulatedController &controller, const QString &where, QStringList *failures);
     static void checkCommands(const SimulatedController &controller, QStringList *failures);
