@@ -260,9 +260,11 @@ bool BodyModel::resize(const QString &type, int newCount, QString *error)
         *error = QStringLiteral("number of %1 bodies must be 0 to %2").arg(type).arg(limit);
         return false;
     }
-    for (int number = oldCount + 1; number <= newCount; ++number)
-        createBody(type, number, oldCount > 0 ? 1 : 0);
-    for (int number = oldCount; number > newCount; --number)
+    // A table may claim more bodies than ids can name; only those can exist.
+    const int existing = qMin(oldCount, MaxBodyNumber);
+    for (int number = existing + 1; number <= qMin(newCount, MaxBodyNumber); ++number)
+        createBody(type, number, existing > 0 ? 1 : 0);
+    for (int number = existing; number > newCount; --number)
         removeBody(type, number);
     for (const QString &path : countPaths(type))
         m_table.update(path, QString::number(newCount));

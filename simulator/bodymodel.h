@@ -14,6 +14,9 @@ class ParameterTable;
 class BodyModel
 {
 public:
+    // Body ids have at most three digits.
+    static constexpr int MaxBodyNumber = 999;
+
     explicit BodyModel(ParameterTable &table);
 
     static QStringList types();

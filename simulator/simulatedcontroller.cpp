@@ -239,6 +239,18 @@ QStringList SimulatedController::Private::checkCounts(
     const QMap<QString, QString> &parameters = scenario.parameters();
     for (const QString &type : BodyModel::types()) {
         const QStringList paths = BodyModel::countPaths(type);
+        for (const QString &path : paths) {
+            if (!parameters.contains(path))
+                continue;
+            bool number = false;
+            const int count = parameters.value(path).toInt(&number);
+            if (!number || count < 0 || count > BodyModel::MaxBodyNumber)
+                errors << QStringLiteral("%1:%2: \"%3\" must be a count from 0 to %4")
+                              .arg(name)
+                              .arg(scenario.lineOf(path))
+                              .arg(path)
+                              .arg(BodyModel::MaxBodyNumber);
+        }
         for (int i = 1; i < paths.size(); ++i) {
             if (!parameters.contains(paths.at(0)) || !parameters.contains(paths.at(i))
                 || parameters.value(paths.at(0)) == parameters.value(paths.at(i)))

@@ -2,14 +2,6 @@
 
 #include "commandchannel.h"
 
-namespace
-{
-
-// Ids have at most three digits; a controller that claims more is broken.
-constexpr int MaxBodies = 999;
-
-} // namespace
-
 BodyLoader::BodyLoader(const CommandChannel &channel)
     : m_channel(channel)
 {
@@ -18,9 +10,9 @@ BodyLoader::BodyLoader(const CommandChannel &channel)
 int BodyLoader::numberOfBodies(const QString &type) const
 {
     int count = 0;
-    if (m_channel.getInt(QStringLiteral("body number_of_bodies %1").arg(type), &count) != 0)
+    if (m_channel.getCount(QStringLiteral("body number_of_bodies %1").arg(type), &count) != 0)
         m_channel.report(tr("Error: Unable to get number of %1 bodies").arg(type));
-    return qBound(0, count, MaxBodies);
+    return count;
 }
 
 int BodyLoader::maximum(
@@ -31,7 +23,7 @@ int BodyLoader::maximum(
         m_channel.report(error.arg(type));
         maximum = fallback;
     }
-    return qBound(0, maximum, MaxBodies);
+    return qBound(0, maximum, CommandText::MaxCount);
 }
 
 QString BodyLoader::typeDescription(const QString &type) const

@@ -291,7 +291,7 @@ bool MtAdministration::resolveTargetConflict(const QString &shortName)
     if (shortName.isEmpty())
         return true;
     int bodies = 0;
-    channel.getInt(QStringLiteral("standard number_of_bodies"), &bodies);
+    channel.getCount(QStringLiteral("standard number_of_bodies"), &bodies);
     for (int i = 1; i <= bodies; ++i) {
         const QString body = Standard + QLatin1Char(' ') + CommandText::bodyId(i);
         QString name;

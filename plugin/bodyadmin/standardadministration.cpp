@@ -245,7 +245,7 @@ bool StandardAdministration::resolveTargetConflict(const QString &shortName)
     if (shortName.isEmpty())
         return true;
     int references = 0;
-    channel.getInt(QStringLiteral("measurementtool number_of_references"), &references);
+    channel.getCount(QStringLiteral("measurementtool number_of_references"), &references);
     for (int i = 1; i <= references; ++i) {
         QString name;
         if (channel.getString(QStringLiteral("body targetlib_name %1 %2")

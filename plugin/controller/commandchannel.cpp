@@ -51,6 +51,18 @@ int CommandChannel::getInt(const QString &path, int *value) const
     return result;
 }
 
+int CommandChannel::getCount(const QString &path, int *count) const
+{
+    const int result = getInt(path, count);
+    if (result != 0)
+        return result;
+    if (*count < 0 || *count > CommandText::MaxCount) {
+        *count = 0;
+        return Failed;
+    }
+    return 0;
+}
+
 int CommandChannel::getDouble(const QString &path, double *value) const
 {
     double reply = 0.0;

@@ -32,6 +32,10 @@ public:
 
     int getString(const QString &path, QString *value) const;
     int getInt(const QString &path, int *value) const;
+    // A count that drives a loop of queries: a reply outside 0 to
+    // CommandText::MaxCount comes from a broken controller and counts as a
+    // failed query, so no caller can be sent into billions of queries.
+    int getCount(const QString &path, int *count) const;
     int getDouble(const QString &path, double *value) const;
     int getBool(const QString &path, bool *value) const;
     int setParameter(const QString &command) const;

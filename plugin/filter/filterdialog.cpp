@@ -102,7 +102,7 @@ QList<FilterDialog::Preset> FilterDialog::readList(ListKind kind) const
     const ListCommands &commands = kind == ListKind::Presets ? PresetCommands : ModeCommands;
     QList<Preset> list;
     int count = 0;
-    channel.getInt(QLatin1String(commands.count), &count);
+    channel.getCount(QLatin1String(commands.count), &count);
     for (int number = 1; number <= count; ++number) {
         Preset entry;
         QString description;
@@ -192,7 +192,7 @@ void FilterDialog::fillBodies(int tabIndex, int bodyIndex)
         return;
     }
     int count = 0;
-    channel.getInt(type == QLatin1String("standard")
+    channel.getCount(type == QLatin1String("standard")
             ? QStringLiteral("body number_of_bodies standard")
             : QStringLiteral("gripwand number_of_devices"),
         &count);
@@ -343,7 +343,7 @@ void FilterDialog::refillForBody(ListKind kind, const QString &body, QComboBox *
     const QScopedValueRollback<bool> shield(initialised, false);
     combo->clear();
     int count = 0;
-    if (channel.getInt(QLatin1String(commands.count), &count) != 0) {
+    if (channel.getCount(QLatin1String(commands.count), &count) != 0) {
         channel.report(tr(commands.countError));
         return;
     }

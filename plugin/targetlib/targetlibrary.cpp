@@ -39,7 +39,7 @@ QString Targetlibrary::idOfName(const QString &name) const
 void Targetlibrary::loadTargets()
 {
     int count = 0;
-    channel.getInt(QStringLiteral("targetlib number_of_targets"), &count);
+    channel.getCount(QStringLiteral("targetlib number_of_targets"), &count);
     for (int i = 1; i <= count; ++i) {
         const QString id = CommandText::targetId(i);
         QString reply;
@@ -76,7 +76,7 @@ void Targetlibrary::loadTargets()
 void Targetlibrary::loadGroups()
 {
     int count = 0;
-    channel.getInt(QStringLiteral("targetlib number_of_groups"), &count);
+    channel.getCount(QStringLiteral("targetlib number_of_groups"), &count);
     for (int g = 1; g <= count; ++g) {
         const QString group = CommandText::groupId(g);
         QString groupName;
@@ -88,7 +88,7 @@ void Targetlibrary::loadGroups()
         groupName = CommandText::withoutDoubleQuotes(groupName);
 
         int members = 0;
-        if (channel.getInt(
+        if (channel.getCount(
                 QStringLiteral("targetlib number_of_group_members %1").arg(group), &members)
             != 0)
             continue;

@@ -8,11 +8,6 @@
 class FixedAngle
 {
 public:
-    // More bodies than this is a broken reply, not a configuration; reading
-    // them one query at a time would stall the dialog.
-    static constexpr int MaxBodies = 999;
-    static bool isPlausibleCount(int count) { return count >= 0 && count <= MaxBodies; }
-
     // Takes flags and angles from a "standard fixed_angle" reply: flag and
     // angle for x, y and z, separated by blanks ("yes 5.00 no 0.00 no 0.00").
     // Missing or unreadable fields read as not held and 0.

@@ -40,8 +40,7 @@ int FixedAngleDlg::update_and_exec()
 void FixedAngleDlg::readRecords()
 {
     int count = 0;
-    if (channel.getInt(QStringLiteral("body number_of_bodies standard"), &count) != 0
-        || !FixedAngle::isPlausibleCount(count)) {
+    if (channel.getCount(QStringLiteral("body number_of_bodies standard"), &count) != 0) {
         channel.report(tr("Error: Unable to check number of standard bodies"));
         return;
     }

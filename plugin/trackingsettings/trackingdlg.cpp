@@ -147,9 +147,7 @@ bool TrackingDlg::anyFixedAngle() const
     if (!channel.atLeast(1, 6))
         return false;
     int count = 0;
-    channel.getInt(QStringLiteral("standard number_of_bodies"), &count);
-    if (!FixedAngle::isPlausibleCount(count))
-        return false;
+    channel.getCount(QStringLiteral("standard number_of_bodies"), &count);
     for (int number = 1; number <= count; ++number) {
         FixedAngle body;
         body.setFromReply(channel.stringOf(

@@ -28,6 +28,8 @@ private slots:
     void replies();
     void metaCommand_data();
     void metaCommand();
+    void counts_data();
+    void counts();
     void typedFailuresGiveNeutralValues();
     void reportGoesToMessageLog();
     void noIOManager();
@@ -274,6 +276,34 @@ void TestCommandChannel::metaCommand()
 
     QCOMPARE(channel.sendMetaCommand("velora2 cal targetlib stop") == 0, done);
     QCOMPARE(controller.commands(), QStringList { "velora2 cal targetlib stop" });
+}
+
+void TestCommandChannel::counts_data()
+{
+    QTest::addColumn<QString>("reply");
+    QTest::addColumn<bool>("ok");
+    QTest::addColumn<int>("count");
+
+    QTest::newRow("none") << "0" << true << 0;
+    QTest::newRow("three digits at most") << "999" << true << 999;
+    QTest::newRow("more than ids can name") << "1000" << false << 0;
+    QTest::newRow("the largest int") << "2147483647" << false << 0;
+    QTest::newRow("negative") << "-5" << false << 0;
+    QTest::newRow("no number") << "many" << false << 0;
+}
+
+void TestCommandChannel::counts()
+{
+    QFETCH(QString, reply);
+    QFETCH(bool, ok);
+    QFETCH(int, count);
+
+    SimulatedController controller;
+    controller.replaceReply("targetlib number_of_targets", reply.toLatin1());
+    CommandChannel channel(&controller, &controller.backendVersions());
+    int value = -1;
+    QCOMPARE(channel.getCount("targetlib number_of_targets", &value) == 0, ok);
+    QCOMPARE(value, count);
 }
 
 void TestCommandChannel::typedFailuresGiveNeutralValues()
