@@ -6,12 +6,15 @@
 class MessageReceiver
 {
 public:
-    virtual ~MessageReceiver() = default;
-
     // receiver: the name the message was addressed to; sender: the sending
     // module's name; text: the message (may be null). All zero-terminated.
     // Returns 0 when the message was taken.
     virtual int receiveMessage(const char *receiver, const char *sender, const char *text) = 0;
+
+protected:
+    // receiveMessage is the one entry of the host's table; receivers are
+    // never deleted through this base.
+    ~MessageReceiver() = default;
 };
 
 #endif // MESSAGERECEIVER_H

@@ -322,8 +322,8 @@ bool BodyOperations::calibrateFromTarget(const BodyTypeEntry &entry, const QStri
             != 0)
             m_channel.report(
                 tr("Unable to reset markers of target %1 %2").arg(type, QString::number(i + 1)));
-        else if (m_channel.setParameter(bodyCommand("desc", type, i) + QLatin1Char(' ')
-                     + CommandText::quoted(QString()))
+        if (m_channel.setParameter(
+                bodyCommand("desc", type, i) + QLatin1Char(' ') + CommandText::quoted(QString()))
             != 0)
             // Names the type twice; the log's readers know it so.
             m_channel.report(tr("Unable to reset description of target %1 %1").arg(type));

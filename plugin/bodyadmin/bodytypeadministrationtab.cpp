@@ -168,6 +168,9 @@ void BodyTypeAdministrationTab::update_tab()
 
     for (auto it = types.begin(); it != types.end(); ++it)
         reloadBodies(it.key());
+    // Idle tabs follow the tracked targets.
+    if (targetSearch->widgets().targetTable && !targetSearch->isSearching())
+        targetSearch->startStatusTimer();
     updateView();
     emit selection_changed(selectedType, selectedIndex);
 }
@@ -197,14 +200,13 @@ void BodyTypeAdministrationTab::refreshSpinBox(const QString &type, bool reconne
     if (!e || !e->numberSpinBox)
         return;
     QSpinBox *spinBox = e->numberSpinBox;
-    const auto slot = &BodyTypeAdministrationTab::ON_spinBox_valueChanged;
-    if (reconnect)
-        disconnect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this, slot);
+    // Showing the controller's count is no change of it: with reconnect no
+    // handler hears it, and the handlers keep their order (a tab may listen
+    // after the base).
+    const QSignalBlocker blocker(reconnect ? spinBox : nullptr);
     spinBox->setMinimum(0);
     spinBox->setMaximum(maxNumberOfBodies(type));
     spinBox->setValue(e->bodies.size());
-    if (reconnect)
-        connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this, slot);
 }
 
 void BodyTypeAdministrationTab::refreshTable(const QString &type)

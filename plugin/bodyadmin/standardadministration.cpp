@@ -47,9 +47,9 @@ StandardAdministration::StandardAdministration(IOManager *ioManager, QWidget *pa
     widgets.deselectColumnAtStart = ModelCol;
     setSearchWidgets(widgets);
 
-    fillCategories();
     fillTargetTable(ui->comboBox_filter->currentText());
     targetRow = ui->tableWidget_targetlibrary->currentRow();
+    fillCategories();
 }
 
 StandardAdministration::~StandardAdministration()

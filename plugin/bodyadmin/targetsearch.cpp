@@ -188,20 +188,33 @@ void TargetSearch::stop()
         m_widgets.progressBar->setValue(0);
     m_channel.sendCommand(QStringLiteral("velora2 cal targetlib stop"));
     m_channel.report(tr("target library calibration cancelled"));
-    finishSearch(true);
+    // Stopped by the user: the tab is usable again before the result shows.
+    restoreIdleControls(true);
+    announceResult();
+    startStatusTimer();
 }
 
 void TargetSearch::finishSearch(bool enableControls)
 {
+    announceResult();
+    restoreIdleControls(enableControls);
+    startStatusTimer();
+}
+
+void TargetSearch::announceResult()
+{
     if (m_widgets.resultLabel)
         m_widgets.resultLabel->clear();
     announce(m_foundTargets);
+}
+
+void TargetSearch::restoreIdleControls(bool enableControls)
+{
     m_widgets.start->setEnabled(true);
     m_widgets.stop->setEnabled(false);
     m_tab->applySelectionRules();
     if (enableControls)
         m_tab->setSearchControlsEnabled(true);
-    startStatusTimer();
 }
 
 void TargetSearch::statusStep()

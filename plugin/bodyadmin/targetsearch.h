@@ -79,6 +79,8 @@ public:
 
 private:
     void finishSearch(bool enableControls);
+    void announceResult();
+    void restoreIdleControls(bool enableControls);
     void showCounts();
 
     BodyTypeAdministrationTab *m_tab;

@@ -270,7 +270,6 @@ void FilterDialog::readPreset()
     QString preset;
     if (channel.getString(QStringLiteral("body filter6d_preset ") + body, &preset) != 0) {
         channel.report(tr("Error: Unable to get filter 6d preset for body %1").arg(body));
-        ui->comboBox_preset->setCurrentIndex(-1);
         ui->comboBox_preset->setEnabled(false);
         return;
     }

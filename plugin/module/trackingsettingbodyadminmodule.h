@@ -6,6 +6,25 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
+#include <QtPlugin>
+
+#include <mutex>
+
+// The host may ask for the module object from more than one thread at once:
+// create it under a lock, once, and hand out the same object after that.
+#undef Q_PLUGIN_INSTANCE
+#define Q_PLUGIN_INSTANCE(IMPLEMENTATION)                                                          \
+    {                                                                                              \
+        static std::mutex creation;                                                                \
+        static QPointer<QObject> instance;                                                         \
+        const std::lock_guard<std::mutex> lock(creation);                                          \
+        if (!instance) {                                                                           \
+            QT_PLUGIN_RESOURCE_INIT                                                                \
+            instance = new IMPLEMENTATION;                                                         \
+        }                                                                                          \
+        return instance;                                                                           \
+    }
 
 class IOManager;
 class QWidget;

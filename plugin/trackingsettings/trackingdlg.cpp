@@ -169,13 +169,13 @@ void TrackingDlg::readAxis()
         value[i] = fields.at(i).toDouble(&numbers);
 
     ui->comboBox_5dofAxis->setCurrentIndex(-1);
-    ui->label_display5dof->clear();
     // An unreadable reply shows nothing rather than a made-up axis.
     if (!numbers)
         return;
     for (int index = 0; index < AxisCount; ++index) {
         const Axis &axis = Axes[index];
         if (value[0] == axis.x && value[1] == axis.y && value[2] == axis.z) {
+            ui->label_display5dof->clear();
             ui->comboBox_5dofAxis->setCurrentIndex(index);
             return;
         }

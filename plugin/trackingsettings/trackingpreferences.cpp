@@ -63,10 +63,7 @@ QString TrackingPreferences::readFile()
     if (!document.setContent(&file, &message, &line, &column))
         return tr("Error: Loading tracking settings preferences while parsing %1 (Line %2, Column "
                   "%3) :\n%4. Using built-in values")
-            .arg(name)
-            .arg(line)
-            .arg(column)
-            .arg(message);
+            .arg(name, QString::number(line), QString::number(column), message);
 
     const QDomElement root = document.documentElement();
     if (root.tagName() != QLatin1String(RootTag))

@@ -117,6 +117,11 @@ void TestGripwandAdministration::headTableFollowsCount()
 
     f.widget<QSpinBox>("spinBox_gripwands")->setValue(3);
     QCOMPARE(f.changes().first(), QString("gripwand number_of_devices 3"));
+    // The heads follow once the Gripwands have changed.
+    const QStringList commands = f.controller->commands();
+    if (shown)
+        QVERIFY(commands.indexOf("gripwand number_of_devices 3")
+            < commands.indexOf("body desc multiusergripwand_head b03"));
     QCOMPARE(gripwands()->rowCount(), 3);
     if (shown) {
         QCOMPARE(heads->rowCount(), 3);

@@ -48,7 +48,7 @@ void TestTabSearch::cleanup()
     dialog = nullptr;
     delete controller;
     QVERIFY2(QApplication::topLevelWidgets().isEmpty(),
-             qPrintable(ModalDriver::topLevelWidgetNames().join(", ")));
+        qPrintable(ModalDriver::topLevelWidgetNames().join(", ")));
 }
 
 void TestTabSearch::controlsDuringSearch_data()
@@ -57,19 +57,18 @@ void TestTabSearch::controlsDuringSearch_data()
     QTest::addColumn<QStringList>("locked");
     QTest::addColumn<QStringList>("free");
 
-    QTest::newRow("standard")
-        << int(BodyTabFactory::Standard)
-        << QStringList{"spinBox_standard_bodies", "pushButton_filter",
-                       "pushButton_customCalibration", "comboBox_filter"}
-        << QStringList{"tableWidget_standard"};
+    QTest::newRow("standard") << int(BodyTabFactory::Standard)
+                              << QStringList { "spinBox_standard_bodies", "pushButton_filter",
+                                     "pushButton_customCalibration", "comboBox_filter" }
+                              << QStringList { "tableWidget_standard" };
     QTest::newRow("Gripwand") << int(BodyTabFactory::Gripwand) << QStringList()
-                              << QStringList{"spinBox_gripwands", "pushButton_filter",
-                                             "pushButton_calibration"};
+                              << QStringList { "spinBox_gripwands", "pushButton_filter",
+                                     "pushButton_calibration" };
     QTest::newRow("hands") << int(BodyTabFactory::Fingertracking) << QStringList()
-                           << QStringList{"spinBox_fingertracking", "pushButton_calibration"};
+                           << QStringList { "spinBox_fingertracking", "pushButton_calibration" };
     QTest::newRow("measurement tools")
-        << int(BodyTabFactory::MeasurementTool) << QStringList{"spinBox_mtref", "comboBox_filter"}
-        << QStringList{"spinBox_mt"};
+        << int(BodyTabFactory::MeasurementTool)
+        << QStringList { "spinBox_mtref", "comboBox_filter" } << QStringList { "spinBox_mt" };
 }
 
 void TestTabSearch::controlsDuringSearch()
@@ -79,9 +78,8 @@ void TestTabSearch::controlsDuringSearch()
     QFETCH(QStringList, free);
 
     BodyTypeAdministrationTab *tab = open(key);
-    const auto enabled = [tab](const QString &name) {
-        return tab->findChild<QWidget *>(name)->isEnabled();
-    };
+    const auto enabled
+        = [tab](const QString &name) { return tab->findChild<QWidget *>(name)->isEnabled(); };
     tab->findChild<QPushButton *>("pushButton_start")->click();
     QVERIFY(tab->isSearching());
     for (const QString &name : locked)
@@ -91,10 +89,18 @@ void TestTabSearch::controlsDuringSearch()
     QVERIFY(!enabled("pushButton_select"));
     QVERIFY(!enabled("pushButton_deselect"));
 
+    // Stopped by the user, the tab is usable again while the result shows.
+    bool usableDuringResult = false;
     ModalDriver driver;
-    driver.pressButton(QMessageBox::Ok);
+    driver.answer([&](QWidget *modal) {
+        usableDuringResult = enabled("pushButton_start") && !enabled("pushButton_stop");
+        for (const QString &name : locked)
+            usableDuringResult = usableDuringResult && enabled(name);
+        static_cast<QDialog *>(modal)->accept();
+    });
     tab->findChild<QPushButton *>("pushButton_stop")->click();
     QCOMPARE(driver.pending(), 0);
+    QVERIFY(usableDuringResult);
     for (const QString &name : locked + free)
         QVERIFY2(enabled(name), qPrintable(name));
     tab->about_to_exit();
@@ -110,8 +116,8 @@ void TestTabSearch::countAtTheEnd_data()
     // their refresh saw, which no refresh made here.
     QTest::newRow("standard") << int(BodyTabFactory::Standard)
                               << "2 targets could be identified in library";
-    QTest::newRow("measurement tools") << int(BodyTabFactory::MeasurementTool)
-                                       << "2 targets could be identified in library";
+    QTest::newRow("measurement tools")
+        << int(BodyTabFactory::MeasurementTool) << "2 targets could be identified in library";
     QTest::newRow("Gripwand") << int(BodyTabFactory::Gripwand)
                               << "No targets could be identified in library";
     QTest::newRow("hands") << int(BodyTabFactory::Fingertracking)

@@ -183,7 +183,7 @@ void TestFilterDialog::opens_data()
     QTest::newRow("calibrated Gripwands") << 24 << none << 1 << -1 << "Gripwand body 01=gripwand b01" << AllPresets << Predefined << none;
     QTest::newRow("Gripwand by index") << 24 << none << 1 << 1 << "(Gripwand body 02=gripwand b02)" << AllPresets << Predefined << none;
     QTest::newRow("switch unread: cleared") << 24 << "body filter6d_enabled standard b02" << 0 << 1 << B02 << PresetsOff << Off << none;
-    QTest::newRow("preset unread") << 24 << "body filter6d_preset standard b02" << 0 << 1 << B02 << PresetsOff << "[x] | () | (0.50) | (12) | (Static)" << "Error: Unable to get filter 6d preset for body standard b02";
+    QTest::newRow("preset unread") << 24 << "body filter6d_preset standard b02" << 0 << 1 << B02 << PresetsOff << "[x] | (Default) | (0.50) | (12) | (Static)" << "Error: Unable to get filter 6d preset for body standard b02";
     QTest::newRow("preset count unread") << 24 << "filter6d number_of_presets" << 0 << 1 << B02 << none << "[x] |  | (0.50) | (12) | (Static)" << "Error: Unable to get number of filter 6d presets";
     QTest::newRow("preset availability unread") << 24 << "body filter6d_preset_available " + sb << 0 << 1 << B02 << "Default, Medium prediction, Custom, Custom hybrid" << Custom << "Error: Unable to get filter 6d preset id available";
     QTest::newRow("standard bodies without filter") << 24 << "filter6d available standard=no" << 0 << 1 << "()" << "()" << closed << missing.arg("for standard bodies ");

@@ -23,7 +23,7 @@ struct Delivery {
     QString text;
 };
 
-class RecordingReceiver : public MessageReceiver
+class RecordingReceiver final : public MessageReceiver
 {
 public:
     int receiveMessage(const char *receiver, const char *sender, const char *text) override
