@@ -29,9 +29,8 @@ namespace
 constexpr int MaxBodies = 999;
 // Every dialog opened once with every list at its longest stays well below.
 constexpr int CommandBudget = 400000;
-// Counts above these are the known faults below.
-constexpr qint64 LibraryCountLimit = 100;
-constexpr qint64 FilterListLimit = 1000;
+// Groups and members per group both above this are the known fault below.
+constexpr qint64 NestedCountLimit = 100;
 
 const char *const BodyTypes[] = { "standard", "gripwand", "multiusergripwand_head",
     "fingertracking", "measurementtool", "measurementtool_reference" };
@@ -86,6 +85,8 @@ QList<QByteArray> ReplyTarget::seeds() const
         "reply targetlib number_of_groups = 3\n"
         "reply targetlib number_of_group_members * = 2147483647",
         "reply targetlib number_of_targets = -5\nreply targetlib number_of_groups = -2147483648",
+        "reply targetlib number_of_groups = 999\nreply targetlib number_of_group_members * = 999\n"
+        "reply targetlib group_name * = G",
         "reply targetlib target_name * = \\xff'\\x00' \"\n"
         "reply targetlib group_member * = t01\nreply targetlib group_name * = \"\"\"\"\n"
         "reply targetlib target_bodytype * = ''''",
@@ -352,12 +353,10 @@ QStringList ReplyTarget::run(const QByteArray &input)
 QString ReplyTarget::knownFault(const QByteArray &input) const
 {
     const ReplyPlan plan = ReplyPlan::parse(input);
-    if (plan.claimsMoreThan(QStringLiteral("targetlib number_of_"), LibraryCountLimit))
-        return QStringLiteral("the target library loops over any count the controller claims");
-    if (plan.claimsMoreThan(QStringLiteral("filter6d number_of_"), FilterListLimit)
-        || plan.claimsMoreThan(QStringLiteral("body number_of_bodies standard"), MaxBodies)
-        || plan.claimsMoreThan(QStringLiteral("gripwand number_of_devices"), MaxBodies))
-        return QStringLiteral("the filter dialog loops over any count the controller claims");
+    if (plan.claimsMoreThan(QStringLiteral("targetlib number_of_groups"), NestedCountLimit)
+        && plan.claimsMoreThan(
+            QStringLiteral("targetlib number_of_group_members"), NestedCountLimit))
+        return QStringLiteral("the target library asks for every member of every group");
     if (plan.repliesWithLineBreaks())
         return QStringLiteral("reply text goes into commands with its line breaks");
     return QString();
