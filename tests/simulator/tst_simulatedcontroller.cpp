@@ -288,7 +288,7 @@ void tst_SimulatedController::typedQueries_data()
     QTest::newRow("bool yes") << "getBool"
                               << "inertial available" << 0 << "true";
     QTest::newRow("bool no") << "getBool"
-                             << "gripwand multiuser" << 0 << "false";
+                             << "inertial warmup" << 0 << "false";
     QTest::newRow("bool from other text") << "getBool"
                                           << "status active" << invalid << "";
 }
