@@ -90,16 +90,6 @@ bool ReplyPlan::mayMatch(const Rule &rule, const QString &prefix)
     return prefix.startsWith(stem) || stem.startsWith(prefix);
 }
 
-bool ReplyPlan::repliesWithLineBreaks() const
-{
-    for (const Rule &rule : m_rules) {
-        if (rule.kind != Rule::Fail && rule.kind != Rule::Set
-            && (rule.text.contains('\n') || rule.text.contains('\r')))
-            return true;
-    }
-    return false;
-}
-
 bool ReplyPlan::claimsMoreThan(const QString &prefix, qint64 limit) const
 {
     for (const Rule &rule : m_rules) {

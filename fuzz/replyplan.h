@@ -43,8 +43,6 @@ public:
     // Whether a rule may make the controller claim a number above limit for
     // a command that starts with prefix (a count the module loops over).
     bool claimsMoreThan(const QString &prefix, qint64 limit) const;
-    // Whether a reply carries a line break.
-    bool repliesWithLineBreaks() const;
 
     const QList<Rule> &rules() const { return m_rules; }
 

@@ -357,7 +357,5 @@ QString ReplyTarget::knownFault(const QByteArray &input) const
         && plan.claimsMoreThan(
             QStringLiteral("targetlib number_of_group_members"), NestedCountLimit))
         return QStringLiteral("the target library asks for every member of every group");
-    if (plan.repliesWithLineBreaks())
-        return QStringLiteral("reply text goes into commands with its line breaks");
     return QString();
 }

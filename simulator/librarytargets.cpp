@@ -28,7 +28,8 @@ QStringList LibraryTargets::ids() const
     qint32 count = 0;
     ParameterTable::toInt(m_table.value(QStringLiteral("targetlib number_of_targets")), &count);
     QStringList ids;
-    for (int number = 1; number <= count; ++number)
+    // Target ids have at most three digits; a larger count names no more.
+    for (int number = 1; number <= qMin(count, 999); ++number)
         ids << targetId(number);
     return ids;
 }

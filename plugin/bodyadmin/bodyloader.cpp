@@ -128,7 +128,7 @@ QString BodyLoader::filterText(const QString &type, int index) const
     const QString mode = m_channel.stringOf(bodyQuery("filter6d_mode", type, index));
     const QString modeDescription = CommandText::withoutDoubleQuotes(
         m_channel.stringOf(QStringLiteral("filter6d mode_desc %1").arg(mode)));
-    const int milliseconds = int(prediction * 1000);
+    const int milliseconds = CommandText::truncated(prediction * 1000);
     if (CommandText::isHybridPreset(preset))
         return QStringLiteral("%1ms/%2").arg(milliseconds).arg(modeDescription);
 

@@ -163,7 +163,7 @@ void TargetSearch::measurementStep()
         double progress = 0.0;
         if (m_channel.getDouble(QStringLiteral("status progress"), &progress) == 0
             && m_widgets.progressBar)
-            m_widgets.progressBar->setValue(int(progress * 100));
+            m_widgets.progressBar->setValue(CommandText::truncated(progress * 100));
         statusStep();
         return;
     }

@@ -11,10 +11,19 @@ class ReplyBuffer
 public:
     ReplyBuffer() { m_data[0] = '\0'; }
     char *data() { return m_data; }
+    // The reply up to its zero byte, or the buffer's end. Line breaks and
+    // other control characters belong to no value; a reply that carries them
+    // is garbled, and they must never find their way into a later command.
     QString text()
     {
         m_data[IOManager::ReplyBufferSize - 1] = '\0';
-        return QString::fromLatin1(m_data);
+        QString reply;
+        for (const char *c = m_data; *c; ++c) {
+            const uchar code = uchar(*c);
+            if (code >= 0x20 && code != 0x7f)
+                reply.append(QLatin1Char(*c));
+        }
+        return reply;
     }
 
 private:

@@ -54,6 +54,11 @@ public:
         return presetId.contains(QLatin1String("hybrid"));
     }
 
+    // A reply's number scaled for display (seconds to milliseconds, fraction
+    // to percent), truncated toward zero. Values no int can hold, as a broken
+    // reply may bring, end at the nearest limit; not-a-number gives 0.
+    static int truncated(double value);
+
     // Meta commands succeed only with exactly this reply.
     static bool isMetaOk(const QString &reply) { return reply == QLatin1String("velora2 ok"); }
 

@@ -68,7 +68,7 @@ bool fitsInertialSensor(const QString &presetId)
 // truncated toward zero.
 int milliseconds(double seconds)
 {
-    return int(seconds * 1000);
+    return CommandText::truncated(seconds * 1000);
 }
 
 } // namespace

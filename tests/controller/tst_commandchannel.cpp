@@ -6,6 +6,9 @@
 
 #include <QtTest>
 
+#include <cmath>
+#include <limits>
+
 // The grammar and the channel are what every dialog relies on for the exact
 // command texts and for reading replies safely.
 class TestCommandChannel : public QObject
@@ -30,6 +33,8 @@ private slots:
     void metaCommand();
     void counts_data();
     void counts();
+    void scaledNumbers_data();
+    void scaledNumbers();
     void typedFailuresGiveNeutralValues();
     void reportGoesToMessageLog();
     void noIOManager();
@@ -226,6 +231,9 @@ void TestCommandChannel::replies_data()
         << QByteArray(500, 'a') << false << QString(IOManager::ReplyBufferSize - 1, 'a');
     QTest::newRow("unterminated is terminated") << QByteArray(
         IOManager::ReplyBufferSize, 'z') << true << QString(IOManager::ReplyBufferSize - 1, 'z');
+    QTest::newRow("line breaks never reach a later command")
+        << QByteArray("preset6d_default\nstandard number_of_bodies 0\r\t") << false
+        << "preset6d_defaultstandard number_of_bodies 0";
     QTest::newRow("latin-1 bytes") << QByteArray("Gr\xf6\xdf"
                                                  "e")
                                    << false
@@ -304,6 +312,25 @@ void TestCommandChannel::counts()
     int value = -1;
     QCOMPARE(channel.getCount("targetlib number_of_targets", &value) == 0, ok);
     QCOMPARE(value, count);
+}
+
+void TestCommandChannel::scaledNumbers_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("truncated");
+
+    QTest::newRow("12.5 ms") << 12.5 << 12;
+    QTest::newRow("toward zero") << -12.9 << -12;
+    QTest::newRow("too large") << 1e308 << std::numeric_limits<int>::max();
+    QTest::newRow("too small") << -1e308 << std::numeric_limits<int>::min();
+    QTest::newRow("not a number") << std::nan("") << 0;
+}
+
+void TestCommandChannel::scaledNumbers()
+{
+    QFETCH(double, value);
+    QFETCH(int, truncated);
+    QCOMPARE(CommandText::truncated(value), truncated);
 }
 
 void TestCommandChannel::typedFailuresGiveNeutralValues()
