@@ -1,11 +1,7 @@
 #include "standardadministration.h"
+#include "tabfixture.h"
 #include "target.h"
-#include "targetlibrary.h"
 
-#include <modaldriver.h>
-#include <simulatedcontroller.h>
-
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QMessageBox>
@@ -21,8 +17,8 @@ class TestStandardAdministration : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { f.init(); }
+    void cleanup() { TAB_FIXTURE_CLEANUP(f); }
 
     void formTexts();
     void columns_data();
@@ -42,60 +38,12 @@ private slots:
     void customCalibrationHandOver();
 
 private:
-    void build();
-    template<typename T> T *widget(const char *name) const
-    {
-        return tab->findChild<T *>(QString::fromLatin1(name));
-    }
-    QStringList changes() const;
+    template<typename T> T *widget(const char *name) const { return f.widget<T>(name); }
     void selectBodyRow(int row);
     void selectTarget(const QString &id);
 
-    SimulatedController *controller = nullptr;
-    Targetlibrary *library = nullptr;
-    StandardAdministration *tab = nullptr;
+    TabFixture<StandardAdministration> f;
 };
-
-void TestStandardAdministration::init()
-{
-    controller = new SimulatedController;
-    controller->setManualClock(true);
-}
-
-void TestStandardAdministration::build()
-{
-    library = new Targetlibrary(controller, &controller->backendVersions(), nullptr);
-    tab = new StandardAdministration(
-        controller, nullptr, &controller->backendVersions(), QString(), library);
-    tab->resize(1300, 600);
-    tab->show();
-    tab->update_tab();
-    controller->clearLog();
-}
-
-void TestStandardAdministration::cleanup()
-{
-    ModalDriver::closeAllModals();
-    delete tab;
-    tab = nullptr;
-    delete library;
-    delete controller;
-    QVERIFY2(QApplication::topLevelWidgets().isEmpty(),
-        qPrintable(ModalDriver::topLevelWidgetNames().join(", ")));
-}
-
-QStringList TestStandardAdministration::changes() const
-{
-    QStringList texts;
-    for (const SimulatedController::LogEntry &entry : controller->log()) {
-        // The custom-calibration check only refreshes what the controller shows.
-        if ((entry.kind == SimulatedController::LogEntry::Setting
-                || entry.kind == SimulatedController::LogEntry::Command)
-            && entry.text != "velora2 targetlib check_custom_calibration")
-            texts << entry.text;
-    }
-    return texts;
-}
 
 void TestStandardAdministration::selectBodyRow(int row)
 {
@@ -105,20 +53,20 @@ void TestStandardAdministration::selectBodyRow(int row)
 void TestStandardAdministration::selectTarget(const QString &id)
 {
     auto *combo = widget<QComboBox>("comboBox_filter");
-    combo->setCurrentIndex(combo->findText(library->groupOf(id)));
+    combo->setCurrentIndex(combo->findText(f.library->groupOf(id)));
     QTableWidget *targets = widget<QTableWidget>("tableWidget_targetlibrary");
     for (int row = 0; row < targets->rowCount(); ++row) {
         if (targets->item(row, 0)->text() == id)
             targets->setCurrentCell(row, 0);
     }
-    controller->clearLog();
+    f.controller->clearLog();
 }
 
 void TestStandardAdministration::formTexts()
 {
-    build();
-    QCOMPARE(tab->tabTitle(), QString("&Standard"));
-    QCOMPARE(tab->whatsThis(), QString("Administration of standard bodies"));
+    f.build();
+    QCOMPARE(f.tab->tabTitle(), QString("&Standard"));
+    QCOMPARE(f.tab->whatsThis(), QString("Administration of standard bodies"));
     QCOMPARE(widget<QPushButton>("pushButton_select")->toolTip(),
         QString("Assing target from target library to selected body"));
     QCOMPARE(widget<QPushButton>("pushButton_start")->toolTip(),
@@ -159,9 +107,9 @@ void TestStandardAdministration::columns()
     QFETCH(bool, filterShown);
     QFETCH(bool, sensorShown);
 
-    controller->setValue("filter6d available standard", filter);
-    controller->setValue("body inertial_sensor standard b03", sensor);
-    build();
+    f.controller->setValue("filter6d available standard", filter);
+    f.controller->setValue("body inertial_sensor standard b03", sensor);
+    f.build();
     QTableWidget *table = widget<QTableWidget>("tableWidget_standard");
     QCOMPARE(table->columnCount(), 10);
     QCOMPARE(table->horizontalHeaderItem(7)->text(), QString("Filter"));
@@ -177,20 +125,20 @@ void TestStandardAdministration::columns()
 
 void TestStandardAdministration::maximumWhenControllerCannotTell()
 {
-    controller->failCommand("standard max_number_of_bodies");
-    build();
+    f.controller->failCommand("standard max_number_of_bodies");
+    f.build();
     auto *spinBox = widget<QSpinBox>("spinBox_standard_bodies");
     QCOMPARE(spinBox->maximum(), 4);
     QCOMPARE(spinBox->value(), 4);
     QCOMPARE(widget<QLabel>("label_error")->text(),
         QString("<b><font color=red>Max. number of bodies is reached!</font></b>"));
-    tab->update_tab();
-    QVERIFY(controller->reports().contains("Error: Unable to get max number of standard bodies"));
+    f.tab->update_tab();
+    QVERIFY(f.controller->reports().contains("Error: Unable to get max number of standard bodies"));
 }
 
 void TestStandardAdministration::moveButtons()
 {
-    build();
+    f.build();
     auto *up = widget<QPushButton>("pushButton_up");
     auto *down = widget<QPushButton>("pushButton_down");
     widget<QTableWidget>("tableWidget_standard")->clearSelection();
@@ -206,14 +154,14 @@ void TestStandardAdministration::moveButtons()
 
 void TestStandardAdministration::moveUp()
 {
-    build();
+    f.build();
     selectBodyRow(1);
-    controller->clearLog();
+    f.controller->clearLog();
     QSignalSpy selections(
-        tab, QOverload<const QString &, int>::of(&BodyTypeAdministrationTab::selection_changed));
+        f.tab, QOverload<const QString &, int>::of(&BodyTypeAdministrationTab::selection_changed));
     widget<QPushButton>("pushButton_up")->click();
 
-    QCOMPARE(changes(), QStringList { "velora2 body switch standard b02 standard b01" });
+    QCOMPARE(f.changes(), QStringList { "velora2 body switch standard b02 standard b01" });
     QTableWidget *table = widget<QTableWidget>("tableWidget_standard");
     QCOMPARE(table->item(0, 3)->text(), QString("Room reference"));
     QCOMPARE(table->selectedItems().first()->row(), 0);
@@ -240,7 +188,7 @@ void TestStandardAdministration::selectWithReferenceConflict()
     QFETCH(int, answer);
     QFETCH(QStringList, sent);
 
-    build();
+    f.build();
     selectBodyRow(3); // unnamed: no overwrite question
     selectTarget("t05");
     ModalDriver driver;
@@ -253,7 +201,7 @@ void TestStandardAdministration::selectWithReferenceConflict()
         QString("This target is already calibrated as Measurement Tool Reference MR1."));
     QCOMPARE(driver.seen().first().informativeText,
         QString("Delete the Measurement Tool Reference MR1?"));
-    QCOMPARE(changes(), sent);
+    QCOMPARE(f.changes(), sent);
 }
 
 void TestStandardAdministration::bendableTargetWarning_data()
@@ -272,8 +220,8 @@ void TestStandardAdministration::bendableTargetWarning()
     QFETCH(QString, group);
     QFETCH(bool, warned);
 
-    controller->setValue("targetlib group_name g01", group);
-    build();
+    f.controller->setValue("targetlib group_name g01", group);
+    f.build();
     selectBodyRow(3);
     selectTarget("t02"); // GL-6, a member of the first group
     ModalDriver driver;
@@ -289,7 +237,8 @@ void TestStandardAdministration::bendableTargetWarning()
                     "recommended!\n\n(To avoid any changes of the geometry\nmount the target "
                     "to the device prior re-calibration)"));
     // The assignment stands either way.
-    QCOMPARE(changes(), QStringList { "velora2 body calibrate_from_targetlib standard b04 GL-6" });
+    QCOMPARE(
+        f.changes(), QStringList { "velora2 body calibrate_from_targetlib standard b04 GL-6" });
     QCOMPARE(widget<QTableWidget>("tableWidget_standard")->item(3, 6)->text(),
         QString("Target Library"));
 }
@@ -311,32 +260,32 @@ void TestStandardAdministration::deactivatingTheReference()
     QFETCH(QStringList, sent);
     QFETCH(Qt::CheckState, active);
 
-    build();
+    f.build();
     QTableWidget *table = widget<QTableWidget>("tableWidget_standard");
     ModalDriver driver;
     driver.pressButton(answer);
     table->item(1, 1)->setCheckState(Qt::Unchecked);
-    tab->setBodyActive("standard", 1, false);
+    f.tab->setBodyActive("standard", 1, false);
 
     QCOMPARE(driver.pending(), 0);
     QCOMPARE(driver.seen().first().text,
         QString("After deactivating the reference target,\nall targets will not be tracked."));
     QCOMPARE(driver.seen().first().informativeText, QString("Continue?"));
-    QCOMPARE(changes(), sent);
+    QCOMPARE(f.changes(), sent);
     QCOMPARE(table->item(1, 1)->checkState(), active);
     QCOMPARE(table->item(1, 2)->checkState(), Qt::Checked);
 }
 
 void TestStandardAdministration::searchStartDisablesControls()
 {
-    build();
+    f.build();
     auto *combo = widget<QComboBox>("comboBox_filter");
     combo->setCurrentIndex(2);
     selectBodyRow(0);
     widget<QPushButton>("pushButton_start")->click();
 
     QCOMPARE(combo->currentText(), QString("- Found Targets -"));
-    QVERIFY(changes().contains("velora2 cal targetlib start"));
+    QVERIFY(f.changes().contains("velora2 cal targetlib start"));
     QVERIFY(!widget<QPushButton>("pushButton_start")->isEnabled());
     QVERIFY(widget<QPushButton>("pushButton_stop")->isEnabled());
     for (const char *name : { "spinBox_standard_bodies", "pushButton_filter",
@@ -352,7 +301,7 @@ void TestStandardAdministration::searchStartDisablesControls()
     for (const char *name : { "spinBox_standard_bodies", "pushButton_customCalibration",
              "comboBox_filter", "pushButton_start" })
         QVERIFY2(widget<QWidget>(name)->isEnabled(), name);
-    tab->about_to_exit();
+    f.tab->about_to_exit();
 }
 
 void TestStandardAdministration::globalFilterSwitch_data()
@@ -380,25 +329,25 @@ void TestStandardAdministration::globalFilterSwitch()
     QFETCH(bool, locked);
     QFETCH(QStringList, sent);
 
-    build();
-    controller->setValue("standard filter_bodies", filterBodies);
-    controller->backendVersions().backendVersion = { 1, version.section('.', 1).toInt(), 0 };
-    tab->setLocked(locked);
-    tab->ON_activeConfigurationChanged();
-    QCOMPARE(changes(), sent);
+    f.build();
+    f.controller->setValue("standard filter_bodies", filterBodies);
+    f.controller->backendVersions().backendVersion = { 1, version.section('.', 1).toInt(), 0 };
+    f.tab->setLocked(locked);
+    f.tab->ON_activeConfigurationChanged();
+    QCOMPARE(f.changes(), sent);
     QCOMPARE(
-        controller->commands().contains("standard filter_bodies"), version != "1.11" && !locked);
+        f.controller->commands().contains("standard filter_bodies"), version != "1.11" && !locked);
 }
 
 void TestStandardAdministration::customCalibrationHandOver()
 {
-    build();
+    f.build();
     widget<QTableWidget>("tableWidget_standard")->setCurrentCell(-1, -1);
     widget<QPushButton>("pushButton_customCalibration")->click();
-    QVERIFY(controller->messages().isEmpty());
+    QVERIFY(f.controller->messages().isEmpty());
     selectBodyRow(2);
     widget<QPushButton>("pushButton_customCalibration")->click();
-    QCOMPARE(controller->messages(), QStringList { "OpenBodyCalDialog standard b03" });
+    QCOMPARE(f.controller->messages(), QStringList { "OpenBodyCalDialog standard b03" });
 }
 
 QTEST_MAIN(TestStandardAdministration)
