@@ -42,8 +42,12 @@ BodyTypeAdministrationTab::BodyTypeAdministrationTab(IOManager *ioManager, QWidg
 {
     connect(targetSearch->measurementTimer(), &QTimer::timeout, this,
         &BodyTypeAdministrationTab::doMeasurement_tl);
-    connect(targetSearch->statusTimer(), &QTimer::timeout, this,
-        &BodyTypeAdministrationTab::updateTrackedAndAcceptStatus_tl);
+    // A tab out of sight has nothing to show: its refresh waits, rather than
+    // every tab visited asking the controller three times a second.
+    connect(targetSearch->statusTimer(), &QTimer::timeout, this, [this] {
+        if (isVisible())
+            updateTrackedAndAcceptStatus_tl();
+    });
 }
 
 BodyTypeAdministrationTab::~BodyTypeAdministrationTab() = default;
