@@ -84,24 +84,19 @@ void deletion(QPainter &p) // "118.png": delete geometry
 // "19.png" and "24.png": move the selected body up or down.
 void arrow(QPainter &p, bool up)
 {
-    QPainterPath path;
-    if (up) {
-        path.moveTo(16, 4);
-        path.lineTo(28, 17);
-        path.lineTo(20, 17);
-        path.lineTo(20, 28);
-        path.lineTo(12, 28);
-        path.lineTo(12, 17);
-        path.lineTo(4, 17);
-    } else {
-        path.moveTo(16, 28);
-        path.lineTo(28, 15);
-        path.lineTo(20, 15);
-        path.lineTo(20, 4);
-        path.lineTo(12, 4);
-        path.lineTo(12, 15);
-        path.lineTo(4, 15);
+    // One arrow, pointing up; the down arrow is its mirror image.
+    if (!up) {
+        p.translate(0, IconSize);
+        p.scale(1, -1);
     }
+    QPainterPath path;
+    path.moveTo(16, 4);
+    path.lineTo(28, 17);
+    path.lineTo(20, 17);
+    path.lineTo(20, 28);
+    path.lineTo(12, 28);
+    path.lineTo(12, 17);
+    path.lineTo(4, 17);
     path.closeSubpath();
     QLinearGradient fill(0, 0, 32, 32);
     fill.setColorAt(0, QColor(90, 160, 230));
