@@ -70,7 +70,7 @@ DialogSample measureDialog(int bodies, int repeats)
     DialogSample sample;
     sample.bodies = bodies;
     for (int run = 0; run < repeats; ++run) {
-        SimulatedController controller;
+        sim::SimulatedController controller;
         controller.setManualClock(true);
         if (!BenchScenario::setStandardBodies(controller, bodies))
             return sample;
@@ -111,7 +111,7 @@ LibrarySample measureLibrary(int targets, int repeats)
     LibrarySample sample;
     sample.targets = targets;
     for (int run = 0; run < repeats; ++run) {
-        SimulatedController controller;
+        sim::SimulatedController controller;
         controller.setManualClock(true);
         BenchScenario::setLibraryTargets(controller, targets);
         controller.clearLog();

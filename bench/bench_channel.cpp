@@ -34,7 +34,7 @@ struct Query {
 
 // Interleaved batches, so that drift of the machine hits both sides alike.
 // The controller's log is emptied between batches, outside the clock.
-void measure(SimulatedController &controller, const Query &query, const Options &options,
+void measure(sim::SimulatedController &controller, const Query &query, const Options &options,
     BenchClock *raw, BenchClock *channel, int *failures)
 {
     QElapsedTimer timer;
@@ -81,7 +81,7 @@ int main(int argc, char **argv)
     if (!parseOptions(application.arguments(), &options))
         return 2;
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.setManualClock(true);
     const CommandChannel channel(&controller, &controller.backendVersions());
     const QString descPath = QStringLiteral("body desc standard b01");

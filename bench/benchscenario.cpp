@@ -19,7 +19,7 @@ QString numbered(char letter, int number)
 
 } // namespace
 
-bool BenchScenario::setStandardBodies(SimulatedController &controller, int count)
+bool BenchScenario::setStandardBodies(sim::SimulatedController &controller, int count)
 {
     controller.setValue(QStringLiteral("standard max_number_of_bodies"), QString::number(count));
     if (controller.setParameter("standard number_of_bodies %d", count) != 0)
@@ -49,7 +49,7 @@ bool BenchScenario::setStandardBodies(SimulatedController &controller, int count
     return true;
 }
 
-void BenchScenario::setLibraryTargets(SimulatedController &controller, int count)
+void BenchScenario::setLibraryTargets(sim::SimulatedController &controller, int count)
 {
     const QMap<QString, QString> table = controller.parameters();
     const QString prefix = QStringLiteral("targetlib ");

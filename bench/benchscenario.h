@@ -1,7 +1,10 @@
 #ifndef BENCHSCENARIO_H
 #define BENCHSCENARIO_H
 
+namespace sim
+{
 class SimulatedController;
+}
 
 // Grows the default scenario to the sizes a benchmark needs, the way a
 // crowded installation would look: bodies and library targets are copies of
@@ -11,10 +14,10 @@ class BenchScenario
 {
 public:
     // Standard bodies 1..count, cycling through the four default ones.
-    static bool setStandardBodies(SimulatedController &controller, int count);
+    static bool setStandardBodies(sim::SimulatedController &controller, int count);
     // Library targets 1..count, cycling through the eight default ones, each
     // new one in one of the three default groups.
-    static void setLibraryTargets(SimulatedController &controller, int count);
+    static void setLibraryTargets(sim::SimulatedController &controller, int count);
 };
 
 #endif // BENCHSCENARIO_H

@@ -28,7 +28,7 @@
 
 DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
     : QMainWindow(parent)
-    , m_controller(new SimulatedController(this))
+    , m_controller(new sim::SimulatedController(this))
     , m_logModel(new SimulatorLogModel(50000, this))
     , m_logDock(new LogDock(m_logModel, this))
     , m_standIns(new StandInModules(m_controller, this, this))
@@ -42,9 +42,10 @@ DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
     qRegisterMetaType<QWidget *>("QWidget*");
 
     // What the stand-ins did on construction is already in the controller's log.
-    for (const SimulatedController::LogEntry &entry : m_controller->log())
+    for (const sim::SimulatedController::LogEntry &entry : m_controller->log())
         m_logModel->append(entry);
-    connect(m_controller, &SimulatedController::logged, m_logModel, &SimulatorLogModel::append);
+    connect(
+        m_controller, &sim::SimulatedController::logged, m_logModel, &SimulatorLogModel::append);
     connect(m_logDock, &LogDock::clearRequested, this, [this] {
         m_controller->clearLog();
         m_logModel->clear();
@@ -75,10 +76,10 @@ DemoWindow::~DemoWindow()
 QString DemoWindow::scenarioFile(const QString &scenario)
 {
     if (scenario.isEmpty())
-        return SimulatedController::defaultScenario();
+        return sim::SimulatedController::defaultScenario();
     if (QFileInfo::exists(scenario))
         return scenario;
-    const QStringList builtIn = SimulatedController::builtInScenarios();
+    const QStringList builtIn = sim::SimulatedController::builtInScenarios();
     for (const QString &file : builtIn) {
         if (QFileInfo(file).completeBaseName() == scenario)
             return file;
@@ -225,7 +226,7 @@ QWidget *DemoWindow::createCentralPage(bool observer)
 void DemoWindow::reportProblem(const QString &operation, const QString &text)
 {
     QTextStream(stderr) << text << '\n';
-    SimulatedController::LogEntry entry;
+    sim::SimulatedController::LogEntry entry;
     entry.operation = operation;
     entry.text = text.section(QLatin1Char('\n'), 0, 2).simplified();
     entry.result = 1;

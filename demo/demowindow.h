@@ -9,7 +9,10 @@
 class DemoOptions;
 class LogDock;
 class ModuleInterface;
+namespace sim
+{
 class SimulatedController;
+}
 class SimulatorLogModel;
 class StandInModules;
 
@@ -24,7 +27,7 @@ public:
     explicit DemoWindow(const DemoOptions &options, QWidget *parent = nullptr);
     ~DemoWindow() override;
 
-    SimulatedController *controller() const { return m_controller; }
+    sim::SimulatedController *controller() const { return m_controller; }
     SimulatorLogModel *logModel() const { return m_logModel; }
     StandInModules *standIns() const { return m_standIns; }
     // Null when the plug-in did not load; loadError() then says why.
@@ -46,7 +49,7 @@ private:
     void reportProblem(const QString &operation, const QString &text);
     void showAbout();
 
-    SimulatedController *m_controller;
+    sim::SimulatedController *m_controller;
     SimulatorLogModel *m_logModel;
     LogDock *m_logDock;
     StandInModules *m_standIns;

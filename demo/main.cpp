@@ -35,7 +35,7 @@ int main(int argc, char *argv[])
                 << QCoreApplication::applicationVersion() << '\n';
             return 0;
         case DemoOptions::ListScenarios:
-            for (const QString &file : SimulatedController::builtInScenarios())
+            for (const QString &file : sim::SimulatedController::builtInScenarios())
                 out << QFileInfo(file).completeBaseName() << '\t' << file << '\n';
             return 0;
         case DemoOptions::Run:

@@ -3,7 +3,7 @@
 #include <QBrush>
 #include <QColor>
 
-using LogEntry = SimulatedController::LogEntry;
+using LogEntry = sim::SimulatedController::LogEntry;
 
 SimulatorLogModel::SimulatorLogModel(int maximumRows, QObject *parent)
     : QAbstractTableModel(parent)

@@ -25,15 +25,15 @@ public:
         int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
     // A failed operation, a time-out, or an error report to the message log.
-    static bool isFailure(const SimulatedController::LogEntry &entry);
+    static bool isFailure(const sim::SimulatedController::LogEntry &entry);
 
-    void append(const SimulatedController::LogEntry &entry);
+    void append(const sim::SimulatedController::LogEntry &entry);
     void clear();
 
 private:
-    QString cellText(const SimulatedController::LogEntry &entry, int column) const;
+    QString cellText(const sim::SimulatedController::LogEntry &entry, int column) const;
 
-    QVector<SimulatedController::LogEntry> m_entries;
+    QVector<sim::SimulatedController::LogEntry> m_entries;
     int m_maximumRows;
 };
 

@@ -50,7 +50,7 @@ ReplyPlan ReplyPlan::parse(const QByteArray &input)
     return plan;
 }
 
-void ReplyPlan::applyTo(SimulatedController &controller) const
+void ReplyPlan::applyTo(sim::SimulatedController &controller) const
 {
     BackendVersions &versions = controller.backendVersions();
     if (m_hasVersion)

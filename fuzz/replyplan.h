@@ -7,7 +7,10 @@
 #include <QList>
 #include <QString>
 
+namespace sim
+{
 class SimulatedController;
+}
 
 // How the reply fuzzer's input doctors the simulated controller. The input
 // is text, one rule a line, so that mutations of words and numbers hit
@@ -38,7 +41,7 @@ public:
     static constexpr int MaxBodies = 60;
 
     static ReplyPlan parse(const QByteArray &input);
-    void applyTo(SimulatedController &controller) const;
+    void applyTo(sim::SimulatedController &controller) const;
 
     // Whether a rule may make the controller claim a number above limit for
     // a command that starts with prefix (a count the module loops over).

@@ -139,7 +139,7 @@ QList<QByteArray> ReplyTarget::dictionary() const
 }
 
 void ReplyTarget::checkReports(
-    const SimulatedController &controller, const QString &where, QStringList *failures)
+    const sim::SimulatedController &controller, const QString &where, QStringList *failures)
 {
     for (const QString &report : controller.reports()) {
         if (!report.startsWith(QLatin1String("Error: ")))
@@ -148,7 +148,7 @@ void ReplyTarget::checkReports(
     }
 }
 
-void ReplyTarget::checkLibrary(SimulatedController &controller, QStringList *failures)
+void ReplyTarget::checkLibrary(sim::SimulatedController &controller, QStringList *failures)
 {
     controller.clearLog();
     const Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
@@ -196,7 +196,7 @@ void ReplyTarget::checkRecord(const QString &where, const BodyRecord &body, QStr
         *failures << where + QStringLiteral(": \"none\" kept as a name");
 }
 
-void ReplyTarget::checkLoader(SimulatedController &controller, QStringList *failures)
+void ReplyTarget::checkLoader(sim::SimulatedController &controller, QStringList *failures)
 {
     controller.clearLog();
     const CommandChannel channel(&controller, &controller.backendVersions());
@@ -256,7 +256,7 @@ void ReplyTarget::checkTab(int key, const BodyTypeAdministrationTab *tab, QStrin
     }
 }
 
-void ReplyTarget::checkDialogs(SimulatedController &controller, QStringList *failures)
+void ReplyTarget::checkDialogs(sim::SimulatedController &controller, QStringList *failures)
 {
     controller.clearLog();
     {
@@ -301,14 +301,14 @@ void ReplyTarget::search(BodyTypeAdministrationTab *tab)
     }
 }
 
-void ReplyTarget::checkCommands(const SimulatedController &controller, QStringList *failures)
+void ReplyTarget::checkCommands(const sim::SimulatedController &controller, QStringList *failures)
 {
     // The link is line-based: a line break inside a command would make the
     // controller run its second half as a command of its own.
-    for (const SimulatedController::LogEntry &entry : controller.log()) {
-        if ((entry.kind == SimulatedController::LogEntry::Command
-                || entry.kind == SimulatedController::LogEntry::Query
-                || entry.kind == SimulatedController::LogEntry::Setting)
+    for (const sim::SimulatedController::LogEntry &entry : controller.log()) {
+        if ((entry.kind == sim::SimulatedController::LogEntry::Command
+                || entry.kind == sim::SimulatedController::LogEntry::Query
+                || entry.kind == sim::SimulatedController::LogEntry::Setting)
             && (entry.text.contains(QLatin1Char('\n')) || entry.text.contains(QLatin1Char('\r')))) {
             *failures << QStringLiteral("a command carries a line break: ") + shown(entry.text);
             return;
@@ -320,16 +320,16 @@ QStringList ReplyTarget::run(const QByteArray &input)
 {
     QStringList failures;
     const ReplyPlan plan = ReplyPlan::parse(input);
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.setManualClock(true);
     plan.applyTo(controller);
 
     qint64 commands = 0;
-    QObject::connect(
-        &controller, &SimulatedController::logged, [&](const SimulatedController::LogEntry &entry) {
-            if (entry.kind != SimulatedController::LogEntry::Command
-                && entry.kind != SimulatedController::LogEntry::Query
-                && entry.kind != SimulatedController::LogEntry::Setting)
+    QObject::connect(&controller, &sim::SimulatedController::logged,
+        [&](const sim::SimulatedController::LogEntry &entry) {
+            if (entry.kind != sim::SimulatedController::LogEntry::Command
+                && entry.kind != sim::SimulatedController::LogEntry::Query
+                && entry.kind != sim::SimulatedController::LogEntry::Setting)
                 return;
             // Past the budget the input has failed already; keep the log
             // from eating the machine until the loop ends or the watchdog

@@ -8,7 +8,10 @@
 #include <memory>
 
 class BodyTypeAdministrationTab;
+namespace sim
+{
 class SimulatedController;
+}
 struct BodyRecord;
 
 // Controller replies into the module: the input doctors the simulated
@@ -32,15 +35,15 @@ public:
     QString knownFault(const QByteArray &input) const override;
 
 private:
-    static void checkLibrary(SimulatedController &controller, QStringList *failures);
-    static void checkLoader(SimulatedController &controller, QStringList *failures);
+    static void checkLibrary(sim::SimulatedController &controller, QStringList *failures);
+    static void checkLoader(sim::SimulatedController &controller, QStringList *failures);
     static void checkRecord(const QString &where, const BodyRecord &body, QStringList *failures);
     static void checkTab(int key, const BodyTypeAdministrationTab *tab, QStringList *failures);
-    static void checkDialogs(SimulatedController &controller, QStringList *failures);
+    static void checkDialogs(sim::SimulatedController &controller, QStringList *failures);
     static void search(BodyTypeAdministrationTab *tab);
     static void checkReports(
-        const SimulatedController &controller, const QString &where, QStringList *failures);
-    static void checkCommands(const SimulatedController &controller, QStringList *failures);
+        const sim::SimulatedController &controller, const QString &where, QStringList *failures);
+    static void checkCommands(const sim::SimulatedController &controller, QStringList *failures);
 
     // The tracking dialog keeps its preferences under the home directory.
     std::unique_ptr<QTemporaryDir> m_home;

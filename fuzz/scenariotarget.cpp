@@ -88,7 +88,7 @@ QString firstDifference(const QStringList &a, const QStringList &b)
 QList<QByteArray> ScenarioTarget::seeds() const
 {
     QList<QByteArray> seeds;
-    for (const QString &name : SimulatedController::builtInScenarios()) {
+    for (const QString &name : sim::SimulatedController::builtInScenarios()) {
         QFile file(name);
         if (file.open(QIODevice::ReadOnly))
             seeds << file.readAll();
@@ -131,7 +131,7 @@ QList<QByteArray> ScenarioTarget::dictionary() const
         "inertial sensor_present VX IMU 'A1234'", "filter6d preset_id t01" };
 }
 
-QStringList ScenarioTarget::probe(SimulatedController &controller, QStringList *failures)
+QStringList ScenarioTarget::probe(sim::SimulatedController &controller, QStringList *failures)
 {
     QStringList transcript;
     char buffer[BufferSize + Guard];
@@ -205,7 +205,7 @@ QStringList ScenarioTarget::run(const QByteArray &input)
     QStringList failures;
     const QString text = QString::fromUtf8(input);
 
-    SimulatedController fresh;
+    sim::SimulatedController fresh;
     fresh.setManualClock(true);
     QStringList errors;
     const bool loaded = fresh.loadScenarioText(text, FileName, &errors);
@@ -222,7 +222,7 @@ QStringList ScenarioTarget::run(const QByteArray &input)
             failures << QStringLiteral("error report without a line of the file: ") + error;
     }
 
-    SimulatedController reused;
+    sim::SimulatedController reused;
     reused.setManualClock(true);
     reused.loadScenarioText(QString::fromLatin1(PreviousScenario), QStringLiteral("previous.scn"));
     char reply[BufferSize];

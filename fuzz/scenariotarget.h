@@ -3,9 +3,12 @@
 
 #include "fuzztarget.h"
 
+namespace sim
+{
 class SimulatedController;
+}
 
-// Scenario files into the simulated controller. Whatever the text, loading
+// sim::Scenario files into the simulated controller. Whatever the text, loading
 // it must report each bad line with a line number that exists, answer the
 // same as a controller that ran another scenario before (loading replaces
 // everything), and leave a controller that keeps answering: queries,
@@ -22,7 +25,7 @@ public:
 
 private:
     // The same fixed series of commands on any controller, as text to compare.
-    static QStringList probe(SimulatedController &controller, QStringList *failures);
+    static QStringList probe(sim::SimulatedController &controller, QStringList *failures);
 };
 
 #endif // SCENARIOTARGET_H

@@ -2,6 +2,9 @@
 
 #include "parametertable.h"
 
+namespace sim
+{
+
 namespace
 {
 
@@ -395,3 +398,5 @@ void BodyModel::updateFilterAvailability(const QString &type, int number)
     if (m_table.value(availablePrefix + QLatin1Char(' ') + preset) == QLatin1String("no"))
         m_table.update(presetPath, QStringLiteral("preset6d_default"));
 }
+
+} // namespace sim

@@ -1,9 +1,12 @@
-#ifndef BODYMODEL_H
-#define BODYMODEL_H
+#ifndef TRACKING_SIM_BODYMODEL_H
+#define TRACKING_SIM_BODYMODEL_H
 
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+namespace sim
+{
 
 class ParameterTable;
 
@@ -73,4 +76,6 @@ private:
     ParameterTable &m_table;
 };
 
-#endif // BODYMODEL_H
+} // namespace sim
+
+#endif // TRACKING_SIM_BODYMODEL_H

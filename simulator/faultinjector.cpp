@@ -1,5 +1,8 @@
 #include "faultinjector.h"
 
+namespace sim
+{
+
 bool FaultInjector::matches(const QString &pattern, const QString &command)
 {
     if (pattern.endsWith(QLatin1Char('*')))
@@ -29,3 +32,5 @@ bool FaultInjector::take(const QString &command, bool settingOnly, Injection *in
     }
     return false;
 }
+
+} // namespace sim

@@ -1,9 +1,12 @@
-#ifndef FAULTINJECTOR_H
-#define FAULTINJECTOR_H
+#ifndef TRACKING_SIM_FAULTINJECTOR_H
+#define TRACKING_SIM_FAULTINJECTOR_H
 
 #include <QByteArray>
 #include <QList>
 #include <QString>
+
+namespace sim
+{
 
 // Failures and doctored replies that the simulated controller gives instead
 // of its own answer. A pattern is an exact command text, or a prefix when it
@@ -34,4 +37,6 @@ private:
     QList<Injection> m_injections;
 };
 
-#endif // FAULTINJECTOR_H
+} // namespace sim
+
+#endif // TRACKING_SIM_FAULTINJECTOR_H

@@ -3,6 +3,9 @@
 #include "bodymodel.h"
 #include "parametertable.h"
 
+namespace sim
+{
+
 namespace
 {
 
@@ -105,3 +108,5 @@ void LibraryTargets::checkCustomCalibration(const BodyModel &bodies)
         m_table.set(path, match);
     }
 }
+
+} // namespace sim

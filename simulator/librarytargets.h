@@ -1,8 +1,11 @@
-#ifndef LIBRARYTARGETS_H
-#define LIBRARYTARGETS_H
+#ifndef TRACKING_SIM_LIBRARYTARGETS_H
+#define TRACKING_SIM_LIBRARYTARGETS_H
 
 #include <QString>
 #include <QStringList>
+
+namespace sim
+{
 
 class BodyModel;
 class ParameterTable;
@@ -38,4 +41,6 @@ private:
     ParameterTable &m_table;
 };
 
-#endif // LIBRARYTARGETS_H
+} // namespace sim
+
+#endif // TRACKING_SIM_LIBRARYTARGETS_H

@@ -6,6 +6,9 @@
 #include "settingrules.h"
 #include "targetsearch.h"
 
+namespace sim
+{
+
 namespace
 {
 
@@ -159,3 +162,5 @@ QString MetaCommands::checkCustomCalibration()
     m_targets.checkCustomCalibration(m_bodies);
     return ok();
 }
+
+} // namespace sim

@@ -1,7 +1,10 @@
-#ifndef METACOMMANDS_H
-#define METACOMMANDS_H
+#ifndef TRACKING_SIM_METACOMMANDS_H
+#define TRACKING_SIM_METACOMMANDS_H
 
 #include <QString>
+
+namespace sim
+{
 
 class BodyModel;
 class LibraryTargets;
@@ -35,4 +38,6 @@ private:
     TargetSearch &m_search;
 };
 
-#endif // METACOMMANDS_H
+} // namespace sim
+
+#endif // TRACKING_SIM_METACOMMANDS_H

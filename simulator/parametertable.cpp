@@ -1,5 +1,8 @@
 #include "parametertable.h"
 
+namespace sim
+{
+
 void ParameterTable::update(const QString &path, const QString &value)
 {
     auto it = m_values.find(path);
@@ -77,3 +80,5 @@ bool ParameterTable::isYesNo(const QString &text)
 {
     return text == QLatin1String("yes") || text == QLatin1String("no");
 }
+
+} // namespace sim

@@ -1,9 +1,12 @@
-#ifndef PARAMETERTABLE_H
-#define PARAMETERTABLE_H
+#ifndef TRACKING_SIM_PARAMETERTABLE_H
+#define TRACKING_SIM_PARAMETERTABLE_H
 
 #include <QMap>
 #include <QString>
 #include <QStringList>
+
+namespace sim
+{
 
 // The controller's parameters: path -> value text, exactly as the controller
 // would answer a query. Paths are the query texts themselves ("body desc
@@ -41,4 +44,6 @@ private:
     QMap<QString, QString> m_values;
 };
 
-#endif // PARAMETERTABLE_H
+} // namespace sim
+
+#endif // TRACKING_SIM_PARAMETERTABLE_H

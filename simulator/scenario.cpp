@@ -2,6 +2,9 @@
 
 #include <QRegularExpression>
 
+namespace sim
+{
+
 namespace
 {
 
@@ -178,3 +181,5 @@ void Scenario::parseDirective(const QString &directive, const QString &rawArgume
         addError(number, QStringLiteral("unknown directive %1").arg(directive));
     }
 }
+
+} // namespace sim

@@ -1,5 +1,5 @@
-#ifndef SCENARIO_H
-#define SCENARIO_H
+#ifndef TRACKING_SIM_SCENARIO_H
+#define TRACKING_SIM_SCENARIO_H
 
 #include "faultinjector.h"
 
@@ -10,6 +10,9 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+
+namespace sim
+{
 
 // One controller described in a text file:
 //
@@ -58,4 +61,6 @@ private:
     QStringList m_errors;
 };
 
-#endif // SCENARIO_H
+} // namespace sim
+
+#endif // TRACKING_SIM_SCENARIO_H

@@ -5,6 +5,9 @@
 
 #include <QSet>
 
+namespace sim
+{
+
 namespace
 {
 
@@ -284,3 +287,5 @@ void SettingRules::followGripwandCount()
     QString ignored;
     m_bodies.resize(head, gripwands, &ignored);
 }
+
+} // namespace sim

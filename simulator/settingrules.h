@@ -1,7 +1,10 @@
-#ifndef SETTINGRULES_H
-#define SETTINGRULES_H
+#ifndef TRACKING_SIM_SETTINGRULES_H
+#define TRACKING_SIM_SETTINGRULES_H
 
 #include <QString>
+
+namespace sim
+{
 
 class BodyModel;
 class ParameterTable;
@@ -35,4 +38,6 @@ private:
     BodyModel &m_bodies;
 };
 
-#endif // SETTINGRULES_H
+} // namespace sim
+
+#endif // TRACKING_SIM_SETTINGRULES_H

@@ -21,7 +21,8 @@
 #include <cstring>
 
 // The scenarios are compiled into this static library; its users do not
-// know about them, so the controller registers them itself.
+// know about them, so the controller registers them itself (from outside
+// the namespace, as Q_INIT_RESOURCE requires).
 static void initSimulatorResources()
 {
     static bool done = false;
@@ -30,6 +31,9 @@ static void initSimulatorResources()
         done = true;
     }
 }
+
+namespace sim
+{
 
 namespace
 {
@@ -568,3 +572,5 @@ void SimulatedController::unregisterReceiver(const char *name, MessageReceiver *
     d->record(entry);
     d->receivers.removeAll(qMakePair(receiverName, receiver));
 }
+
+} // namespace sim

@@ -1,5 +1,5 @@
-#ifndef SIMULATEDCONTROLLER_H
-#define SIMULATEDCONTROLLER_H
+#ifndef TRACKING_SIM_SIMULATEDCONTROLLER_H
+#define TRACKING_SIM_SIMULATEDCONTROLLER_H
 
 #include <backendversions.h>
 #include <iomanager.h>
@@ -9,6 +9,9 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+
+namespace sim
+{
 
 // A tracking controller in software: an IOManager that answers from a table
 // of controller parameters (path -> value text), changes that table the way a
@@ -112,6 +115,8 @@ private:
     Private *d;
 };
 
-Q_DECLARE_METATYPE(SimulatedController::LogEntry)
+} // namespace sim
 
-#endif // SIMULATEDCONTROLLER_H
+Q_DECLARE_METATYPE(sim::SimulatedController::LogEntry)
+
+#endif // TRACKING_SIM_SIMULATEDCONTROLLER_H

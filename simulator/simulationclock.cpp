@@ -1,5 +1,8 @@
 #include "simulationclock.h"
 
+namespace sim
+{
+
 SimulationClock::SimulationClock()
 {
     m_wall.start();
@@ -26,3 +29,5 @@ void SimulationClock::advance(qint64 milliseconds)
     if (m_manual && milliseconds > 0)
         m_manualNow += milliseconds;
 }
+
+} // namespace sim

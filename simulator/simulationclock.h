@@ -1,8 +1,11 @@
-#ifndef SIMULATIONCLOCK_H
-#define SIMULATIONCLOCK_H
+#ifndef TRACKING_SIM_SIMULATIONCLOCK_H
+#define TRACKING_SIM_SIMULATIONCLOCK_H
 
 #include <QElapsedTimer>
 #include <QtGlobal>
+
+namespace sim
+{
 
 // Time as the simulated controller sees it: the wall clock for the demo, a
 // clock that only moves when told to for tests. Switching keeps the time
@@ -25,4 +28,6 @@ private:
     bool m_manual = false;
 };
 
-#endif // SIMULATIONCLOCK_H
+} // namespace sim
+
+#endif // TRACKING_SIM_SIMULATIONCLOCK_H

@@ -3,6 +3,9 @@
 #include "librarytargets.h"
 #include "parametertable.h"
 
+namespace sim
+{
+
 namespace
 {
 
@@ -77,3 +80,5 @@ void TargetSearch::setStatus(const QString &active, double progress)
     m_table.update(StepPath, active);
     m_table.update(ProgressPath, QString::number(progress, 'f', 3));
 }
+
+} // namespace sim

@@ -1,8 +1,11 @@
-#ifndef TARGETSEARCH_H
-#define TARGETSEARCH_H
+#ifndef TRACKING_SIM_TARGETSEARCH_H
+#define TRACKING_SIM_TARGETSEARCH_H
 
 #include <QString>
 #include <QStringList>
+
+namespace sim
+{
 
 class LibraryTargets;
 class ParameterTable;
@@ -42,4 +45,6 @@ private:
     bool m_running = false;
 };
 
-#endif // TARGETSEARCH_H
+} // namespace sim
+
+#endif // TRACKING_SIM_TARGETSEARCH_H

@@ -1,5 +1,5 @@
-#ifndef BODYADMINISTRATIONDLG_H
-#define BODYADMINISTRATIONDLG_H
+#ifndef TRACKING_BODYADMINISTRATIONDLG_H
+#define TRACKING_BODYADMINISTRATIONDLG_H
 
 #include "commandchannel.h"
 #include "editdelegate.h"
@@ -84,4 +84,4 @@ private:
     CommandChannel channel;
 };
 
-#endif // BODYADMINISTRATIONDLG_H
+#endif // TRACKING_BODYADMINISTRATIONDLG_H

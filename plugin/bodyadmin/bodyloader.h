@@ -1,5 +1,5 @@
-#ifndef BODYLOADER_H
-#define BODYLOADER_H
+#ifndef TRACKING_BODYLOADER_H
+#define TRACKING_BODYLOADER_H
 
 #include "bodyrecord.h"
 
@@ -36,4 +36,4 @@ private:
     const CommandChannel &m_channel;
 };
 
-#endif // BODYLOADER_H
+#endif // TRACKING_BODYLOADER_H

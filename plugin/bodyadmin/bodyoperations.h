@@ -1,5 +1,5 @@
-#ifndef BODYOPERATIONS_H
-#define BODYOPERATIONS_H
+#ifndef TRACKING_BODYOPERATIONS_H
+#define TRACKING_BODYOPERATIONS_H
 
 #include "bodytypeentry.h"
 
@@ -57,4 +57,4 @@ private:
     QWidget *m_parent;
 };
 
-#endif // BODYOPERATIONS_H
+#endif // TRACKING_BODYOPERATIONS_H

@@ -1,5 +1,5 @@
-#ifndef BODYRECORD_H
-#define BODYRECORD_H
+#ifndef TRACKING_BODYRECORD_H
+#define TRACKING_BODYRECORD_H
 
 #include <QString>
 
@@ -19,4 +19,4 @@ struct BodyRecord {
     bool hasInertialSensor() const { return !inertialSensor.isEmpty(); }
 };
 
-#endif // BODYRECORD_H
+#endif // TRACKING_BODYRECORD_H

@@ -1,5 +1,5 @@
-#ifndef BODYTABFACTORY_H
-#define BODYTABFACTORY_H
+#ifndef TRACKING_BODYTABFACTORY_H
+#define TRACKING_BODYTABFACTORY_H
 
 #include <QMap>
 
@@ -23,4 +23,4 @@ public:
         BackendVersions *backendVersions, Targetlibrary *targetLibrary);
 };
 
-#endif // BODYTABFACTORY_H
+#endif // TRACKING_BODYTABFACTORY_H

@@ -1,5 +1,5 @@
-#ifndef BODYTABLEFILLER_H
-#define BODYTABLEFILLER_H
+#ifndef TRACKING_BODYTABLEFILLER_H
+#define TRACKING_BODYTABLEFILLER_H
 
 #include "bodytypeentry.h"
 
@@ -54,4 +54,4 @@ private:
     QIcon m_reset;
 };
 
-#endif // BODYTABLEFILLER_H
+#endif // TRACKING_BODYTABLEFILLER_H

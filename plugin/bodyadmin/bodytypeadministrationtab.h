@@ -1,5 +1,5 @@
-#ifndef BODYTYPEADMINISTRATIONTAB_H
-#define BODYTYPEADMINISTRATIONTAB_H
+#ifndef TRACKING_BODYTYPEADMINISTRATIONTAB_H
+#define TRACKING_BODYTYPEADMINISTRATIONTAB_H
 
 #include "bodyloader.h"
 #include "bodyoperations.h"
@@ -172,4 +172,4 @@ private:
     const BodyRecord *selectedBody() const;
 };
 
-#endif // BODYTYPEADMINISTRATIONTAB_H
+#endif // TRACKING_BODYTYPEADMINISTRATIONTAB_H

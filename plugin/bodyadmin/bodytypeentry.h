@@ -1,5 +1,5 @@
-#ifndef BODYTYPEENTRY_H
-#define BODYTYPEENTRY_H
+#ifndef TRACKING_BODYTYPEENTRY_H
+#define TRACKING_BODYTYPEENTRY_H
 
 #include "bodyrecord.h"
 
@@ -37,4 +37,4 @@ struct BodyTypeEntry {
     int columnOf(int role) const { return columnRoles.indexOf(role); }
 };
 
-#endif // BODYTYPEENTRY_H
+#endif // TRACKING_BODYTYPEENTRY_H

@@ -1,5 +1,5 @@
-#ifndef EDITDELEGATE_H
-#define EDITDELEGATE_H
+#ifndef TRACKING_EDITDELEGATE_H
+#define TRACKING_EDITDELEGATE_H
 
 #include <QItemDelegate>
 
@@ -22,4 +22,4 @@ public:
         QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
 };
 
-#endif // EDITDELEGATE_H
+#endif // TRACKING_EDITDELEGATE_H

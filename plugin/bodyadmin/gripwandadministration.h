@@ -1,5 +1,5 @@
-#ifndef GRIPWANDADMINISTRATION_H
-#define GRIPWANDADMINISTRATION_H
+#ifndef TRACKING_GRIPWANDADMINISTRATION_H
+#define TRACKING_GRIPWANDADMINISTRATION_H
 
 #include "bodytypeadministrationtab.h"
 
@@ -74,4 +74,4 @@ private:
     bool headShown = false;
 };
 
-#endif // GRIPWANDADMINISTRATION_H
+#endif // TRACKING_GRIPWANDADMINISTRATION_H

@@ -1,5 +1,5 @@
-#ifndef MTADMINISTRATION_H
-#define MTADMINISTRATION_H
+#ifndef TRACKING_MTADMINISTRATION_H
+#define TRACKING_MTADMINISTRATION_H
 
 #include "bodytypeadministrationtab.h"
 
@@ -66,4 +66,4 @@ private:
     int targetRow = -1;
 };
 
-#endif // MTADMINISTRATION_H
+#endif // TRACKING_MTADMINISTRATION_H

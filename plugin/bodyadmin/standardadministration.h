@@ -1,5 +1,5 @@
-#ifndef STANDARDADMINISTRATION_H
-#define STANDARDADMINISTRATION_H
+#ifndef TRACKING_STANDARDADMINISTRATION_H
+#define TRACKING_STANDARDADMINISTRATION_H
 
 #include "bodytypeadministrationtab.h"
 
@@ -78,4 +78,4 @@ private:
     int targetRow = -1;
 };
 
-#endif // STANDARDADMINISTRATION_H
+#endif // TRACKING_STANDARDADMINISTRATION_H

@@ -1,5 +1,5 @@
-#ifndef TARGETSEARCH_H
-#define TARGETSEARCH_H
+#ifndef TRACKING_TARGETSEARCH_H
+#define TRACKING_TARGETSEARCH_H
 
 #include <QCoreApplication>
 #include <QObject>
@@ -94,4 +94,4 @@ private:
     int m_statusTimerId = -1;
 };
 
-#endif // TARGETSEARCH_H
+#endif // TRACKING_TARGETSEARCH_H

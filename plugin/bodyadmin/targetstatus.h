@@ -1,5 +1,5 @@
-#ifndef TARGETSTATUS_H
-#define TARGETSTATUS_H
+#ifndef TRACKING_TARGETSTATUS_H
+#define TRACKING_TARGETSTATUS_H
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -53,4 +53,4 @@ private:
     QIcon m_customIcon;
 };
 
-#endif // TARGETSTATUS_H
+#endif // TRACKING_TARGETSTATUS_H

@@ -1,5 +1,5 @@
-#ifndef COMMANDCHANNEL_H
-#define COMMANDCHANNEL_H
+#ifndef TRACKING_COMMANDCHANNEL_H
+#define TRACKING_COMMANDCHANNEL_H
 
 #include "commandtext.h"
 #include "versiongate.h"
@@ -63,4 +63,4 @@ private:
     VersionGate m_gate;
 };
 
-#endif // COMMANDCHANNEL_H
+#endif // TRACKING_COMMANDCHANNEL_H

@@ -1,5 +1,5 @@
-#ifndef COMMANDTEXT_H
-#define COMMANDTEXT_H
+#ifndef TRACKING_COMMANDTEXT_H
+#define TRACKING_COMMANDTEXT_H
 
 #include <QString>
 
@@ -66,4 +66,4 @@ private:
     static QString id(char letter, int number);
 };
 
-#endif // COMMANDTEXT_H
+#endif // TRACKING_COMMANDTEXT_H

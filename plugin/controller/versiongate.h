@@ -1,5 +1,5 @@
-#ifndef VERSIONGATE_H
-#define VERSIONGATE_H
+#ifndef TRACKING_VERSIONGATE_H
+#define TRACKING_VERSIONGATE_H
 
 #include <backendversions.h>
 
@@ -31,4 +31,4 @@ private:
     const BackendVersions *m_versions;
 };
 
-#endif // VERSIONGATE_H
+#endif // TRACKING_VERSIONGATE_H

@@ -1,5 +1,5 @@
-#ifndef FILTERDIALOG_H
-#define FILTERDIALOG_H
+#ifndef TRACKING_FILTERDIALOG_H
+#define TRACKING_FILTERDIALOG_H
 
 #include "commandchannel.h"
 
@@ -82,4 +82,4 @@ private:
     QList<Preset> presets;
 };
 
-#endif // FILTERDIALOG_H
+#endif // TRACKING_FILTERDIALOG_H

@@ -1,5 +1,5 @@
-#ifndef FILTERHELP_H
-#define FILTERHELP_H
+#ifndef TRACKING_FILTERHELP_H
+#define TRACKING_FILTERHELP_H
 
 #include <QDialog>
 
@@ -24,4 +24,4 @@ private:
     Ui::FilterHelpClass *ui;
 };
 
-#endif // FILTERHELP_H
+#endif // TRACKING_FILTERHELP_H

@@ -1,5 +1,5 @@
-#ifndef HANDOVERREQUEST_H
-#define HANDOVERREQUEST_H
+#ifndef TRACKING_HANDOVERREQUEST_H
+#define TRACKING_HANDOVERREQUEST_H
 
 #include <QString>
 
@@ -31,4 +31,4 @@ private:
     QString m_text;
 };
 
-#endif // HANDOVERREQUEST_H
+#endif // TRACKING_HANDOVERREQUEST_H

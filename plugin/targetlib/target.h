@@ -1,5 +1,5 @@
-#ifndef TARGET_H
-#define TARGET_H
+#ifndef TRACKING_TARGET_H
+#define TRACKING_TARGET_H
 
 #include <QObject>
 #include <QString>
@@ -23,4 +23,4 @@ public:
     bool tracked; // seen in the tracking volume by the last search
 };
 
-#endif // TARGET_H
+#endif // TRACKING_TARGET_H

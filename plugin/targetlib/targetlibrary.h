@@ -1,5 +1,5 @@
-#ifndef TARGETLIBRARY_H
-#define TARGETLIBRARY_H
+#ifndef TRACKING_TARGETLIBRARY_H
+#define TRACKING_TARGETLIBRARY_H
 
 #include "commandchannel.h"
 
@@ -40,4 +40,4 @@ private:
     CommandChannel channel;
 };
 
-#endif // TARGETLIBRARY_H
+#endif // TRACKING_TARGETLIBRARY_H

@@ -1,5 +1,5 @@
-#ifndef ANGLETABLEWIDGET_H
-#define ANGLETABLEWIDGET_H
+#ifndef TRACKING_ANGLETABLEWIDGET_H
+#define TRACKING_ANGLETABLEWIDGET_H
 
 #include "fixedangle.h"
 
@@ -34,4 +34,4 @@ public slots:
     void changed_cell(int row, int column);
 };
 
-#endif // ANGLETABLEWIDGET_H
+#endif // TRACKING_ANGLETABLEWIDGET_H

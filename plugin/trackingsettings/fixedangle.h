@@ -1,5 +1,5 @@
-#ifndef FIXEDANGLE_H
-#define FIXEDANGLE_H
+#ifndef TRACKING_FIXEDANGLE_H
+#define TRACKING_FIXEDANGLE_H
 
 #include <QString>
 
@@ -25,4 +25,4 @@ public:
     double angleZ = 0.0;
 };
 
-#endif // FIXEDANGLE_H
+#endif // TRACKING_FIXEDANGLE_H

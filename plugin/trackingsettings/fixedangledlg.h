@@ -1,5 +1,5 @@
-#ifndef FIXEDANGLEDLG_H
-#define FIXEDANGLEDLG_H
+#ifndef TRACKING_FIXEDANGLEDLG_H
+#define TRACKING_FIXEDANGLEDLG_H
 
 #include "commandchannel.h"
 #include "fixedangle.h"
@@ -49,4 +49,4 @@ private:
     QList<FixedAngle> records;
 };
 
-#endif // FIXEDANGLEDLG_H
+#endif // TRACKING_FIXEDANGLEDLG_H

@@ -1,5 +1,5 @@
-#ifndef HELPDIALOG_H
-#define HELPDIALOG_H
+#ifndef TRACKING_HELPDIALOG_H
+#define TRACKING_HELPDIALOG_H
 
 #include <QDialog>
 
@@ -22,4 +22,4 @@ private:
     Ui::FixedAngleHelp *ui;
 };
 
-#endif // HELPDIALOG_H
+#endif // TRACKING_HELPDIALOG_H

@@ -1,5 +1,5 @@
-#ifndef TRACKINGDLG_H
-#define TRACKINGDLG_H
+#ifndef TRACKING_TRACKINGDLG_H
+#define TRACKING_TRACKINGDLG_H
 
 #include "commandchannel.h"
 #include "trackingpreferences.h"
@@ -68,4 +68,4 @@ private:
     bool pulseChanged = false;
 };
 
-#endif // TRACKINGDLG_H
+#endif // TRACKING_TRACKINGDLG_H

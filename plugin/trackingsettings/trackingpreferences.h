@@ -1,5 +1,5 @@
-#ifndef TRACKINGPREFERENCES_H
-#define TRACKINGPREFERENCES_H
+#ifndef TRACKING_TRACKINGPREFERENCES_H
+#define TRACKING_TRACKINGPREFERENCES_H
 
 #include <QCoreApplication>
 #include <QString>
@@ -39,4 +39,4 @@ private:
     bool m_advancedShown = false;
 };
 
-#endif // TRACKINGPREFERENCES_H
+#endif // TRACKING_TRACKINGPREFERENCES_H

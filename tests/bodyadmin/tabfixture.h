@@ -16,7 +16,7 @@ template<typename T> class TabFixture
 public:
     void init()
     {
-        controller = new SimulatedController;
+        controller = new sim::SimulatedController;
         controller->setManualClock(true);
     }
 
@@ -54,16 +54,16 @@ public:
     QStringList changes() const
     {
         QStringList texts;
-        for (const SimulatedController::LogEntry &entry : controller->log()) {
-            if ((entry.kind == SimulatedController::LogEntry::Setting
-                    || entry.kind == SimulatedController::LogEntry::Command)
+        for (const sim::SimulatedController::LogEntry &entry : controller->log()) {
+            if ((entry.kind == sim::SimulatedController::LogEntry::Setting
+                    || entry.kind == sim::SimulatedController::LogEntry::Command)
                 && entry.text != QLatin1String("velora2 targetlib check_custom_calibration"))
                 texts << entry.text;
         }
         return texts;
     }
 
-    SimulatedController *controller = nullptr;
+    sim::SimulatedController *controller = nullptr;
     Targetlibrary *library = nullptr;
     T *tab = nullptr;
 };

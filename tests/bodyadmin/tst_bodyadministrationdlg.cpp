@@ -37,7 +37,7 @@ private slots:
     void screenshots();
 
 private:
-    SimulatedController *controller = nullptr;
+    sim::SimulatedController *controller = nullptr;
     BodyAdministrationDlg *dialog = nullptr;
     void build();
     QPushButton *button(const char *name) const
@@ -48,7 +48,7 @@ private:
 
 void TestBodyAdministrationDlg::init()
 {
-    controller = new SimulatedController;
+    controller = new sim::SimulatedController;
     controller->setManualClock(true);
 }
 

@@ -27,7 +27,7 @@ namespace
 {
 
 // A calibrated standard body 2 with everything a controller can tell.
-void bodyTwo(SimulatedController &controller)
+void bodyTwo(sim::SimulatedController &controller)
 {
     const QString b = "standard b02";
     controller.setValue("body desc " + b, "\"Room \"ref\"\"");
@@ -88,7 +88,7 @@ void TestBodyLoader::queriesByVersion()
     QFETCH(QString, version);
     QFETCH(QStringList, queries);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     bodyTwo(controller);
     controller.backendVersions().backendVersion = ::version(version);
     CommandChannel channel(&controller, &controller.backendVersions());
@@ -173,7 +173,7 @@ void TestBodyLoader::filterText()
     QFETCH(QString, preset);
     QFETCH(QString, text);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     const QString b = " gripwand b01";
     controller.setValue("body filter6d_enabled" + b, enabled);
     controller.setValue("body filter6d_preset" + b, preset);
@@ -221,7 +221,7 @@ void TestBodyLoader::reference()
     QFETCH(int, index);
     QFETCH(bool, reference);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.backendVersions().backendVersion = { 1, 24, 0 };
     controller.setValue("tracking reference", reply);
     CommandChannel channel(&controller, &controller.backendVersions());
@@ -230,7 +230,7 @@ void TestBodyLoader::reference()
 
 void TestBodyLoader::failedQueriesAreReported()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.loadScenarioText(QString(), "empty");
     controller.backendVersions().backendVersion = { 1, 24, 0 };
     controller.setValue("body inertial_sensor standard b01", "S1");

@@ -49,14 +49,14 @@ private:
     // What changed the controller: settings and meta commands, in order.
     QStringList changes() const;
 
-    SimulatedController *controller = nullptr;
+    sim::SimulatedController *controller = nullptr;
     Targetlibrary *library = nullptr;
     TestTab *tab = nullptr;
 };
 
 void TestBodyTab::init()
 {
-    controller = new SimulatedController;
+    controller = new sim::SimulatedController;
     controller->setManualClock(true);
     library = new Targetlibrary(controller, &controller->backendVersions(), nullptr);
     tab = new TestTab(controller, &controller->backendVersions(), library);
@@ -77,9 +77,9 @@ void TestBodyTab::cleanup()
 QStringList TestBodyTab::changes() const
 {
     QStringList texts;
-    for (const SimulatedController::LogEntry &entry : controller->log()) {
-        if (entry.kind == SimulatedController::LogEntry::Setting
-            || entry.kind == SimulatedController::LogEntry::Command)
+    for (const sim::SimulatedController::LogEntry &entry : controller->log()) {
+        if (entry.kind == sim::SimulatedController::LogEntry::Setting
+            || entry.kind == sim::SimulatedController::LogEntry::Command)
             texts << entry.text;
     }
     return texts;

@@ -26,13 +26,13 @@ private slots:
 
 private:
     BodyTypeAdministrationTab *open(int key);
-    SimulatedController *controller = nullptr;
+    sim::SimulatedController *controller = nullptr;
     BodyAdministrationDlg *dialog = nullptr;
 };
 
 BodyTypeAdministrationTab *TestTabSearch::open(int key)
 {
-    controller = new SimulatedController;
+    controller = new sim::SimulatedController;
     controller->setManualClock(true);
     dialog = new BodyAdministrationDlg(controller, nullptr, &controller->backendVersions());
     dialog->show();

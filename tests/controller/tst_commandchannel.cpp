@@ -247,7 +247,7 @@ void TestCommandChannel::replies()
     QFETCH(bool, unterminated);
     QFETCH(QString, expected);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.setValue("status active", "none");
     controller.replaceReply("status active", reply, -1, unterminated);
     CommandChannel channel(&controller, &controller.backendVersions());
@@ -276,7 +276,7 @@ void TestCommandChannel::metaCommand()
     QFETCH(int, failure);
     QFETCH(bool, done);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.replaceReply("velora2 cal targetlib stop", reply);
     if (failure)
         controller.failCommand("velora2 cal targetlib stop", failure);
@@ -306,7 +306,7 @@ void TestCommandChannel::counts()
     QFETCH(bool, ok);
     QFETCH(int, count);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.replaceReply("targetlib number_of_targets", reply.toLatin1());
     CommandChannel channel(&controller, &controller.backendVersions());
     int value = -1;
@@ -335,7 +335,7 @@ void TestCommandChannel::scaledNumbers()
 
 void TestCommandChannel::typedFailuresGiveNeutralValues()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.setValue("standard number_of_bodies", "4");
     controller.setValue("status progress", "0.5");
     controller.setValue("inertial warmup", "yes");
@@ -366,7 +366,7 @@ void TestCommandChannel::typedFailuresGiveNeutralValues()
 
 void TestCommandChannel::reportGoesToMessageLog()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     CommandChannel channel(&controller, &controller.backendVersions());
     const QString text
         = QString::fromLatin1("Error: Unable to get description of body standard b01 \xe4");
@@ -374,8 +374,8 @@ void TestCommandChannel::reportGoesToMessageLog()
     channel.report(text);
 
     QCOMPARE(controller.log().size(), 1);
-    const SimulatedController::LogEntry entry = controller.log().first();
-    QCOMPARE(entry.kind, SimulatedController::LogEntry::Message);
+    const sim::SimulatedController::LogEntry entry = controller.log().first();
+    QCOMPARE(entry.kind, sim::SimulatedController::LogEntry::Message);
     QCOMPARE(entry.receiver, QString("standard"));
     QCOMPARE(entry.sender, QString("VELORA4"));
     QCOMPARE(entry.level, 1);

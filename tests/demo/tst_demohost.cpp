@@ -282,7 +282,7 @@ void TestDemoHost::standInAnswersHandOver()
     QFETCH(QString, request);
     QFETCH(QString, shown);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     StandInModules standIns(&controller, nullptr);
     ModalDriver driver;
     driver.pressButton(QMessageBox::Ok);
@@ -295,7 +295,7 @@ void TestDemoHost::standInAnswersHandOver()
 
     QCOMPARE(driver.seen().size(), 1);
     QVERIFY2(driver.seen().first().text.startsWith(shown), qPrintable(driver.seen().first().text));
-    const SimulatedController::LogEntry &reply = controller.log().last();
+    const sim::SimulatedController::LogEntry &reply = controller.log().last();
     QCOMPARE(reply.text, QStringLiteral("reopen"));
     QCOMPARE(reply.receiver, QStringLiteral("BodyAdministrationModule"));
     QCOMPARE(reply.sender, module);
@@ -338,7 +338,7 @@ void TestDemoHost::standInIgnoresOtherMessages()
     QFETCH(QString, module);
     QFETCH(QString, text);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     StandInModules standIns(&controller, nullptr);
     QCOMPARE(standIns.receiveMessage(module.toLatin1().constData(), "BodyAdministrationModule",
                  text.toLatin1().constData()),

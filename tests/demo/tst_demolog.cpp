@@ -7,7 +7,7 @@
 #include <QTableView>
 #include <QtTest>
 
-using LogEntry = SimulatedController::LogEntry;
+using LogEntry = sim::SimulatedController::LogEntry;
 
 namespace
 {

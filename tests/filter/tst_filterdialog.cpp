@@ -32,7 +32,7 @@ private:
     };
     Outcome run(int tab, int index, const std::function<void(QWidget *)> &action = {});
 
-    SimulatedController *controller = nullptr;
+    sim::SimulatedController *controller = nullptr;
     ModalDriver *driver = nullptr;
 };
 
@@ -92,7 +92,7 @@ const QString SensorBody("[x] hidden | Medium prediction | (0.50) | (20) | (Adap
 
 void TestFilterDialog::init()
 {
-    controller = new SimulatedController;
+    controller = new sim::SimulatedController;
     driver = new ModalDriver;
 }
 
@@ -122,7 +122,7 @@ TestFilterDialog::Outcome TestFilterDialog::run(
         outcome.values = valuesOf(modal);
         outcome.error = child<QLabel>(modal, "label_error")->text();
         for (const auto &entry : controller->log().mid(mark))
-            if (entry.kind == SimulatedController::LogEntry::Setting)
+            if (entry.kind == sim::SimulatedController::LogEntry::Setting)
                 outcome.sent << entry.text;
         outcome.reports = controller->reports();
         // Return in a spin box must not have closed the dialog.

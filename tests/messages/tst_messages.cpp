@@ -76,7 +76,7 @@ void TestMessages::matching()
 
 void TestMessages::subscription()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     CommandChannel channel(&controller, &controller.backendVersions());
     BodyAdminMessageReceiver receiver;
     QSignalSpy reopen(&receiver, &BodyAdminMessageReceiver::dialogReopen);
@@ -151,11 +151,11 @@ void TestMessages::requests()
         : kind == "adjust" ? HandOverRequest::bodyAdjustment(bodyType, index, calibration)
                            : HandOverRequest::hybridCalibration(bodyType, index, calibration);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     request.send(CommandChannel(&controller, &controller.backendVersions()));
 
     QCOMPARE(controller.log().size(), 1);
-    const SimulatedController::LogEntry entry = controller.log().first();
+    const sim::SimulatedController::LogEntry entry = controller.log().first();
     QCOMPARE(entry.receiver, receiver);
     QCOMPARE(entry.sender, QString("BodyAdministrationModule"));
     QCOMPARE(entry.level, 1);

@@ -76,7 +76,7 @@ void TestModule::pointerProperties()
     QFETCH(QString, kind);
     QFETCH(bool, stored);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     TrackingSettingBodyAdminModule module;
     QVariant value;
     if (kind == "io")
@@ -167,7 +167,7 @@ void TestModule::observerMode()
 
 void TestModule::unknownPropertyChangesNothing()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QWidget window;
     TrackingSettingBodyAdminModule module;
     module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
@@ -181,8 +181,8 @@ void TestModule::unknownPropertyChangesNothing()
 
 void TestModule::menuEntries()
 {
-    SimulatedController controller;
-    controller.loadScenario(SimulatedController::defaultScenario());
+    sim::SimulatedController controller;
+    controller.loadScenario(sim::SimulatedController::defaultScenario());
     QWidget window;
     TrackingSettingBodyAdminModule module;
     module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
@@ -225,7 +225,7 @@ void TestModule::menuEntries()
 
 void TestModule::secondCallReturnsSameEntries()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     TrackingSettingBodyAdminModule module;
     module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
     const QList<MenuEntry *> first = module.menuEntries();
@@ -243,7 +243,7 @@ void TestModule::secondCallReturnsSameEntries()
 
 void TestModule::cleanupTwiceThenRebuild()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     TrackingSettingBodyAdminModule module;
     module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
     QPointer<QDialog> oldDialog = module.menuEntries().at(1)->dialog;
@@ -266,7 +266,7 @@ void TestModule::cleanupTwiceThenRebuild()
 
 void TestModule::actionsOpenTheirDialogs()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     TrackingSettingBodyAdminModule module;
     module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
     const QList<MenuEntry *> entries = module.menuEntries();
@@ -286,7 +286,7 @@ void TestModule::actionsOpenTheirDialogs()
 
 void TestModule::shutdownLeavesMessageService()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     TrackingSettingBodyAdminModule module;
     module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
     auto *dialog = qobject_cast<BodyAdministrationDlg *>(module.menuEntries().at(1)->dialog);

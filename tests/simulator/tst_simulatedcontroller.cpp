@@ -39,7 +39,7 @@ public:
     std::function<void()> onMessage;
 };
 
-QString stringOf(SimulatedController &controller, const char *path, int *result = nullptr)
+QString stringOf(sim::SimulatedController &controller, const char *path, int *result = nullptr)
 {
     char reply[Buffer];
     const int r = controller.getString(reply, "%s", path);
@@ -48,7 +48,7 @@ QString stringOf(SimulatedController &controller, const char *path, int *result 
     return r == 0 ? QString::fromLatin1(reply) : QStringLiteral("<failed>");
 }
 
-QString metaReply(SimulatedController &controller, const char *command)
+QString metaReply(sim::SimulatedController &controller, const char *command)
 {
     char reply[Buffer];
     if (controller.sendCommand(reply, "%s", command) != 0)
@@ -133,8 +133,8 @@ void tst_SimulatedController::builtInScenariosLoad()
     QFETCH(QString, changeable);
 
     const QString file = QStringLiteral(":/scenarios/%1.scn").arg(name);
-    QVERIFY(SimulatedController::builtInScenarios().contains(file));
-    SimulatedController controller;
+    QVERIFY(sim::SimulatedController::builtInScenarios().contains(file));
+    sim::SimulatedController controller;
     QStringList errors;
     QVERIFY2(controller.loadScenario(file, &errors), qPrintable(errors.join('\n')));
     QVERIFY(errors.isEmpty());
@@ -152,7 +152,7 @@ void tst_SimulatedController::builtInScenariosLoad()
 
 void tst_SimulatedController::scenarioDirectivesAndValues()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     const QString text = QStringLiteral("# a comment\n"
                                         "\n"
                                         "@backend-version 1.9.-1\n"
@@ -238,7 +238,7 @@ void tst_SimulatedController::badScenarioLines()
                                         "%1\n"
                                         "after = taken\n")
                              .arg(badLine);
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QStringList errors;
     QVERIFY(!controller.loadScenarioText(text, "broken.scn", &errors));
     QCOMPARE(errors.size(), 1);
@@ -249,7 +249,7 @@ void tst_SimulatedController::badScenarioLines()
 
 void tst_SimulatedController::unreadableScenario()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QTemporaryDir dir;
     const QString missing = dir.filePath("missing.scn");
     QStringList errors;
@@ -267,8 +267,8 @@ void tst_SimulatedController::typedQueries_data()
     QTest::addColumn<int>("result");
     QTest::addColumn<QString>("value");
 
-    const int unknown = SimulatedController::UnknownParameter;
-    const int invalid = SimulatedController::InvalidValue;
+    const int unknown = sim::SimulatedController::UnknownParameter;
+    const int invalid = sim::SimulatedController::InvalidValue;
     QTest::newRow("text") << "getString"
                           << "body desc standard b01" << 0 << "\"Glasses\"";
     QTest::newRow("text with leading blank") << "getString"
@@ -300,7 +300,7 @@ void tst_SimulatedController::typedQueries()
     QFETCH(int, result);
     QFETCH(QString, value);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     const QByteArray text = path.toLatin1();
     int actual = -1;
     QString shown;
@@ -337,9 +337,9 @@ void tst_SimulatedController::settings_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("value");
 
-    const int unknown = SimulatedController::UnknownParameter;
-    const int invalid = SimulatedController::InvalidValue;
-    const int refused = SimulatedController::Refused;
+    const int unknown = sim::SimulatedController::UnknownParameter;
+    const int invalid = sim::SimulatedController::InvalidValue;
+    const int refused = sim::SimulatedController::Refused;
 
     QTest::newRow("value of two words")
         << "tracking reference standard b03" << 0 << "tracking reference"
@@ -395,7 +395,7 @@ void tst_SimulatedController::settings()
     QFETCH(QString, path);
     QFETCH(QString, value);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QCOMPARE(controller.setParameter("%s", command.toLatin1().constData()), result);
     QCOMPARE(controller.value(path), value);
     QCOMPARE(controller.log().last().error.isEmpty(), result == 0);
@@ -403,7 +403,7 @@ void tst_SimulatedController::settings()
 
 void tst_SimulatedController::readOnlyParametersRefused()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     const QMap<QString, QString> before = controller.parameters();
     for (const char *command :
         { "status active none", "cal available targetlib no", "config is_changeable no",
@@ -411,13 +411,14 @@ void tst_SimulatedController::readOnlyParametersRefused()
             "targetlib target_status_tracked t01 yes", "body type_desc standard \"Body\"",
             "standard max_number_of_bodies 30", "inertial sensor_present VX IMU 'A1234' no",
             "body calibrated standard b04 yes", "gripwand device b02 none" })
-        QVERIFY2(controller.setParameter("%s", command) == SimulatedController::Refused, command);
+        QVERIFY2(
+            controller.setParameter("%s", command) == sim::SimulatedController::Refused, command);
     QCOMPARE(controller.parameters(), before);
 }
 
 void tst_SimulatedController::longestKnownPathWins()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QVERIFY(controller.loadScenarioText("tracking pulse = synchronous_cameras\n"
                                         "tracking pulse frequency = 50.0\n",
         "pulse"));
@@ -457,7 +458,7 @@ void tst_SimulatedController::numberOfBodiesUnderBothNames()
     QFETCH(QString, ownName);
     QFETCH(int, count);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QCOMPARE(controller.setParameter("%s", command.toLatin1().constData()), 0);
     qint32 viaBody = -1;
     qint32 viaOwn = -1;
@@ -474,13 +475,13 @@ void tst_SimulatedController::numberOfBodiesUnderBothNames()
 
     // Beyond the maximum nothing changes.
     QCOMPARE(controller.setParameter("%s 21", ownName.toLatin1().constData()),
-        int(SimulatedController::InvalidValue));
+        int(sim::SimulatedController::InvalidValue));
     QCOMPARE(controller.value(ownName), QString::number(count));
 }
 
 void tst_SimulatedController::growingCreatesDefaultBodies()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QCOMPARE(controller.setParameter("standard number_of_bodies %d", 5), 0);
     const QMap<QString, QString> expected {
         { "body desc standard b05", "\"\"" },
@@ -515,7 +516,7 @@ void tst_SimulatedController::growingCreatesDefaultBodies()
 
 void tst_SimulatedController::shrinkingDropsBodiesAndWhatNamesThem()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     // Body 2 is the reference; t04 knows it as a custom calibration.
     QCOMPARE(controller.setParameter("standard number_of_bodies 1"), 0);
     const QMap<QString, QString> all = controller.parameters();
@@ -536,7 +537,7 @@ void tst_SimulatedController::shrinkingDropsBodiesAndWhatNamesThem()
 
 void tst_SimulatedController::headsFollowGripwands()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QCOMPARE(controller.setParameter("gripwand number_of_devices 4"), 0);
     QCOMPARE(controller.value("body number_of_bodies multiusergripwand_head"), QStringLiteral("4"));
     QVERIFY(controller.contains("body calibrated multiusergripwand_head b04"));
@@ -550,7 +551,7 @@ void tst_SimulatedController::headsFollowGripwands()
 
 void tst_SimulatedController::switchExchangesBodies()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QCOMPARE(metaReply(controller, "velora2 body switch standard b01 standard b02"), Ok);
     QCOMPARE(controller.value("body desc standard b01"), QStringLiteral("\"Room reference\""));
     QCOMPARE(controller.value("body desc standard b02"), QStringLiteral("\"Glasses\""));
@@ -589,7 +590,7 @@ void tst_SimulatedController::switchRefused()
 {
     QFETCH(QString, command);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     const QMap<QString, QString> before = controller.parameters();
     const QString reply = metaReply(controller, command.toLatin1().constData());
     // A refusal is still an answer of the controller: result 0, error reply.
@@ -599,7 +600,7 @@ void tst_SimulatedController::switchRefused()
 
 void tst_SimulatedController::clearingMarkersUncalibrates()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QCOMPARE(controller.setParameter("body number_of_marker %s b%.2d 0", "standard", 1), 0);
     QCOMPARE(controller.value("body calibrated standard b01"), QStringLiteral("no"));
     QCOMPARE(controller.value("body recalibrated standard b01"), QStringLiteral("no"));
@@ -612,7 +613,7 @@ void tst_SimulatedController::clearingMarkersUncalibrates()
 
 void tst_SimulatedController::calibrateFromTargetLibrary()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     // Body 4 has no geometry yet; t02 is free.
     QCOMPARE(metaReply(controller, "velora2 body calibrate_from_targetlib standard b04 GL-6"), Ok);
     QCOMPARE(controller.value("body calibrated standard b04"), QStringLiteral("yes"));
@@ -640,7 +641,7 @@ void tst_SimulatedController::calibrateFromTargetLibrary()
 
 void tst_SimulatedController::sensorAndFilterRules()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     const char *sensor = "VX IMU 'A5678'";
     QCOMPARE(controller.setParameter("body inertial_sensor standard b01 %s", sensor), 0);
     QCOMPARE(controller.value("body filter6d_preset_available standard b01 preset6d_strong"),
@@ -665,7 +666,7 @@ void tst_SimulatedController::sensorAndFilterRules()
 
 void tst_SimulatedController::customCalibrationCheck()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     // Body 2's custom geometry has four markers, like t04.
     controller.setValue("targetlib target_status_calibrated_custom t04", "none");
     QCOMPARE(metaReply(controller, "velora2 targetlib check_custom_calibration"), Ok);
@@ -682,7 +683,7 @@ void tst_SimulatedController::customCalibrationCheck()
 
 void tst_SimulatedController::searchProgressesOnManualClock()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QVERIFY(controller.loadScenarioText("@present t02 t01 t03\n"
                                         "@search-duration 4000\n"
                                         "status active = none\n"
@@ -763,7 +764,7 @@ void tst_SimulatedController::searchRefused()
     QFETCH(QString, value);
     QFETCH(bool, starts);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.setValue(parameter, value);
     const QString reply = metaReply(controller, "velora2 cal targetlib start");
     QCOMPARE(reply == Ok, starts);
@@ -774,13 +775,13 @@ void tst_SimulatedController::searchRefused()
 
 void tst_SimulatedController::lockedConfigurationRefusesChanges()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     QVERIFY(controller.loadScenario(":/scenarios/locked.scn"));
     const QMap<QString, QString> before = controller.parameters();
 
     for (const char *setting : { "standard number_of_bodies 5", "body desc standard b01 \"New\"",
              " tracking reference none", "tracking auto_restart no", "inertial warmup yes" })
-        QCOMPARE(controller.setParameter("%s", setting), int(SimulatedController::Refused));
+        QCOMPARE(controller.setParameter("%s", setting), int(sim::SimulatedController::Refused));
     for (const char *command :
         { "velora2 cal targetlib start", "velora2 body switch standard b01 standard b02",
             "velora2 body calibrate_from_targetlib standard b04 GL-6",
@@ -829,7 +830,7 @@ void tst_SimulatedController::injectedFailures()
     QFETCH(QStringList, queries);
     QFETCH(QList<int>, results);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.failCommand(pattern, 9, times);
     for (int i = 0; i < queries.size(); ++i) {
         char reply[Buffer];
@@ -881,7 +882,7 @@ void tst_SimulatedController::replyNeverOverrunsBuffer()
     QFETCH(bool, unterminated);
     QFETCH(QByteArray, expected);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     const char *command = meta ? "velora2 cal targetlib stop" : "status active";
     controller.replaceReply(command, reply, 1, unterminated);
 
@@ -919,7 +920,7 @@ void tst_SimulatedController::doctoredTypedReplies_data()
     QTest::addColumn<int>("intResult");
     QTest::addColumn<int>("boolResult");
 
-    const int invalid = SimulatedController::InvalidValue;
+    const int invalid = sim::SimulatedController::InvalidValue;
     QTest::newRow("number") << QByteArray("12") << false << 0 << invalid;
     QTest::newRow("number in blanks") << QByteArray(" 12 ") << false << 0 << invalid;
     QTest::newRow("text") << QByteArray("twelve") << false << invalid << invalid;
@@ -935,7 +936,7 @@ void tst_SimulatedController::doctoredTypedReplies()
     QFETCH(int, intResult);
     QFETCH(int, boolResult);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.replaceReply("inertial available", reply, -1, unterminated);
     qint32 number = 0;
     bool flag = false;
@@ -947,7 +948,7 @@ void tst_SimulatedController::doctoredTypedReplies()
 
 void tst_SimulatedController::latencyMovesManualClock()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.setValue("status progress", "0.000");
     controller.setManualClock(true);
     QCOMPARE(metaReply(controller, "velora2 cal targetlib start"), Ok);
@@ -964,8 +965,8 @@ void tst_SimulatedController::latencyMovesManualClock()
 
 void tst_SimulatedController::logRecordsEveryCall()
 {
-    SimulatedController controller;
-    QSignalSpy spy(&controller, &SimulatedController::logged);
+    sim::SimulatedController controller;
+    QSignalSpy spy(&controller, &sim::SimulatedController::logged);
     char reply[Buffer];
     qint32 number = 0;
     double fraction = 0.0;
@@ -980,13 +981,13 @@ void tst_SimulatedController::logRecordsEveryCall()
     controller.sendMessage("standard", "VELORA4", 1, "Error: report");
     controller.sendMessage("BodyCalModule", "BodyAdministrationModule", 1, "OpenBodyCalDialog");
 
-    const QList<SimulatedController::LogEntry> &log = controller.log();
+    const QList<sim::SimulatedController::LogEntry> &log = controller.log();
     QCOMPARE(spy.count(), log.size());
     QCOMPARE(log.size(), 9);
-    using Entry = SimulatedController::LogEntry;
+    using Entry = sim::SimulatedController::LogEntry;
     QCOMPARE(log.at(0).kind, Entry::Query);
     QCOMPARE(log.at(0).reply, QStringLiteral("\"Glasses\""));
-    QCOMPARE(log.at(3).result, int(SimulatedController::UnknownParameter));
+    QCOMPARE(log.at(3).result, int(sim::SimulatedController::UnknownParameter));
     QCOMPARE(log.at(5).kind, Entry::ReplyTimeout);
     QCOMPARE(controller.replyTimeout(), 5000);
     QCOMPARE(log.at(6).kind, Entry::Command);
@@ -1006,7 +1007,7 @@ void tst_SimulatedController::logRecordsEveryCall()
 
 void tst_SimulatedController::messagesReachRegisteredReceivers()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     RecordingReceiver admin;
     RecordingReceiver other;
     controller.registerReceiver("BodyAdministrationModule", &admin);
@@ -1032,7 +1033,7 @@ void tst_SimulatedController::messagesReachRegisteredReceivers()
 
 void tst_SimulatedController::receiversMayLeaveDuringDelivery()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     RecordingReceiver first;
     auto *second = new RecordingReceiver;
     RecordingReceiver third;

@@ -23,7 +23,7 @@ namespace
 {
 
 // A two-target library with one group, as a controller answers it.
-void smallLibrary(SimulatedController &controller)
+void smallLibrary(sim::SimulatedController &controller)
 {
     controller.setValue("targetlib number_of_targets", "2");
     controller.setValue("targetlib target_name t01", "'GL-5' \"Glasses \"large\"\"");
@@ -42,7 +42,7 @@ void smallLibrary(SimulatedController &controller)
 
 void TestTargetlibrary::loadsInOrder()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     smallLibrary(controller);
     Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
 
@@ -92,7 +92,7 @@ void TestTargetlibrary::targetFields()
     QFETCH(QString, name);
     QFETCH(QString, description);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     smallLibrary(controller);
     controller.setValue("targetlib target_name t01", nameReply);
     Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
@@ -145,7 +145,7 @@ void TestTargetlibrary::failures()
     QFETCH(QString, bodyTypeOfT01);
     QFETCH(bool, t01Calibrated);
 
-    SimulatedController controller;
+    sim::SimulatedController controller;
     smallLibrary(controller);
     controller.failCommand(failing);
     Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
@@ -162,7 +162,7 @@ void TestTargetlibrary::failures()
 
 void TestTargetlibrary::groups()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     smallLibrary(controller);
     controller.setValue("targetlib number_of_groups", "3");
     controller.setValue("targetlib group_name g02", "Tools");
@@ -184,7 +184,7 @@ void TestTargetlibrary::groups()
 
 void TestTargetlibrary::idOrderAndLookups()
 {
-    SimulatedController controller;
+    sim::SimulatedController controller;
     controller.setValue("targetlib number_of_targets", "101");
     for (int i = 1; i <= 101; ++i) {
         const QString id = QString::asprintf("t%02d", i);

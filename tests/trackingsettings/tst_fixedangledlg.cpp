@@ -30,7 +30,7 @@ private:
     // Opens the dialog and answers it with action; returns the rows shown.
     QStringList run(const std::function<void(QWidget *)> &action, int *result = nullptr);
 
-    SimulatedController *controller = nullptr;
+    sim::SimulatedController *controller = nullptr;
     ModalDriver *driver = nullptr;
 };
 
@@ -72,8 +72,8 @@ QStringList describeRows(const QTableWidget *table)
 
 void TestFixedAngleDlg::init()
 {
-    controller = new SimulatedController;
-    QVERIFY(controller->loadScenario(SimulatedController::defaultScenario()));
+    controller = new sim::SimulatedController;
+    QVERIFY(controller->loadScenario(sim::SimulatedController::defaultScenario()));
     driver = new ModalDriver;
 }
 

@@ -38,7 +38,7 @@ private:
     int open(TrackingDlg &dialog, const Action &action, const char *button = "pushButton_cancel");
     TrackingDlg *newDialog(const BackendVersions::Version &version = { 1, 24, 0 });
 
-    SimulatedController *controller = nullptr;
+    sim::SimulatedController *controller = nullptr;
 };
 
 namespace
@@ -67,8 +67,8 @@ QImage imageOf(const QIcon &icon)
 void TestTrackingDlg::init()
 {
     removePreferences();
-    controller = new SimulatedController;
-    QVERIFY(controller->loadScenario(SimulatedController::defaultScenario()));
+    controller = new sim::SimulatedController;
+    QVERIFY(controller->loadScenario(sim::SimulatedController::defaultScenario()));
 }
 
 void TestTrackingDlg::cleanup()
