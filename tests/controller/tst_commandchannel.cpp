@@ -2,6 +2,7 @@
 #include "commandtext.h"
 #include "versiongate.h"
 
+#include <scenario.h>
 #include <simulatedcontroller.h>
 
 #include <QtTest>
@@ -15,75 +16,57 @@ class TestCommandChannel : public QObject
     Q_OBJECT
 
 private slots:
-    void gate_data();
-    void gate();
-    void orbilux_data();
-    void orbilux();
+    void versions_data();
+    void versions();
     void grammar();
-    void replies_data();
-    void replies();
-    void metaCommand_data();
-    void metaCommand();
-    void counts_data();
-    void counts();
+    void reads_data();
+    void reads();
     void failuresGiveNeutralValues();
     void reportGoesToMessageLog();
 };
 
-void TestCommandChannel::gate_data()
+void TestCommandChannel::versions_data()
 {
-    QTest::addColumn<int>("major");
-    QTest::addColumn<int>("minor");
-    QTest::addColumn<int>("patch");
-    QTest::addColumn<bool>("passes"); // the gate 1.9
-
-    QTest::newRow("same version") << 1 << 9 << 0 << true;
-    QTest::newRow("unreleased build -1 passes") << 1 << 9 << -1 << true;
-    QTest::newRow("pre-release -2 fails") << 1 << 9 << -2 << false;
-    QTest::newRow("older minor fails") << 1 << 8 << 99 << false;
-    QTest::newRow("newer minor, any patch") << 1 << 10 << -3 << true;
-    QTest::newRow("newer major, any patch") << 2 << 0 << -7 << true;
-    QTest::newRow("older major fails") << 0 << 99 << 0 << false;
-}
-
-void TestCommandChannel::gate()
-{
-    QFETCH(int, major);
-    QFETCH(int, minor);
-    QFETCH(int, patch);
-    QFETCH(bool, passes);
-    BackendVersions v;
-    v.backendVersion = { major, minor, patch };
-    QCOMPARE(CommandChannel(nullptr, &v).atLeast(1, 9), passes);
-    QVERIFY(!VersionGate(nullptr).atLeast(0, 0));
-}
-
-void TestCommandChannel::orbilux_data()
-{
+    QTest::addColumn<QString>("backend");
     QTest::addColumn<QString>("systemType");
-    QTest::addColumn<int>("minor");
-    QTest::addColumn<int>("patch");
-    QTest::addColumn<bool>("isOrbilux");
-    QTest::addColumn<bool>("above293");
-
-    QTest::newRow("2.9.3 is not above") << "ORBILUX compact" << 9 << 3 << true << false;
-    QTest::newRow("2.9.4") << "ORBILUX compact" << 9 << 4 << true << true;
-    QTest::newRow("2.10.0") << "ORBILUX" << 10 << 0 << true << true;
-    QTest::newRow("no special patch -1") << "ORBILUX" << 9 << -1 << true << false;
-    QTest::newRow("lower case is another system") << "orbilux" << 9 << 4 << false << true;
-    QTest::newRow("must begin with it") << " ORBILUX" << 9 << 4 << false << true;
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<QString>("passes"); // gate 1.9, ORBILUX, system above 2.9.3
+    // clang-format off
+    QTest::newRow("same version") << "1.9.0" << "" << "0.0.0" << "1.9";
+    QTest::newRow("unreleased build -1 passes") << "1.9.-1" << "" << "0.0.0" << "1.9";
+    QTest::newRow("pre-release -2 fails") << "1.9.-2" << "" << "0.0.0" << "";
+    QTest::newRow("older minor fails") << "1.8.99" << "" << "0.0.0" << "";
+    QTest::newRow("newer minor, any patch") << "1.10.-3" << "" << "0.0.0" << "1.9";
+    QTest::newRow("newer major, any patch") << "2.0.-7" << "" << "0.0.0" << "1.9";
+    QTest::newRow("older major fails") << "0.99.0" << "" << "0.0.0" << "";
+    QTest::newRow("ORBILUX 2.9.3 is not above") << "0.0.0" << "ORBILUX compact" << "2.9.3" << "ORBILUX";
+    QTest::newRow("ORBILUX 2.9.4") << "0.0.0" << "ORBILUX compact" << "2.9.4" << "ORBILUX above";
+    QTest::newRow("ORBILUX 2.10.0") << "0.0.0" << "ORBILUX" << "2.10.0" << "ORBILUX above";
+    QTest::newRow("no special patch -1") << "0.0.0" << "ORBILUX" << "2.9.-1" << "ORBILUX";
+    QTest::newRow("lower case is another system") << "0.0.0" << "orbilux" << "2.9.4" << "above";
+    QTest::newRow("must begin with it") << "0.0.0" << " ORBILUX" << "2.9.4" << "above";
+    // clang-format on
 }
 
-void TestCommandChannel::orbilux()
+void TestCommandChannel::versions()
 {
-    QFETCH(QString, systemType);
-    QFETCH(int, minor);
-    QFETCH(int, patch);
+    QFETCH(QString, backend);
+    QFETCH(QString, system);
     BackendVersions v;
+    QFETCH(QString, systemType);
     v.systemType = systemType;
-    v.systemVersion = { 2, minor, patch };
-    QTEST(VersionGate(&v).isOrbilux(), "isOrbilux");
-    QTEST(VersionGate(&v).systemVersionAbove(2, 9, 3), "above293");
+    QVERIFY(sim::Scenario::parseVersion(backend, &v.backendVersion));
+    QVERIFY(sim::Scenario::parseVersion(system, &v.systemVersion));
+    const VersionGate gate(&v);
+    QStringList passes;
+    if (CommandChannel(nullptr, &v).atLeast(1, 9))
+        passes << "1.9";
+    if (gate.isOrbilux())
+        passes << "ORBILUX";
+    if (gate.systemVersionAbove(2, 9, 3))
+        passes << "above";
+    QTEST(passes.join(' '), "passes");
+    QVERIFY(!VersionGate(nullptr).atLeast(0, 0));
 }
 
 void TestCommandChannel::grammar()
@@ -106,80 +89,56 @@ void TestCommandChannel::grammar()
     QCOMPARE(CommandText::truncated(std::numeric_limits<double>::quiet_NaN()), 0);
 }
 
-void TestCommandChannel::replies_data()
+void TestCommandChannel::reads_data()
 {
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<bool>("unterminated");
-    QTest::addColumn<QString>("expected");
-
-    const int cut = IOManager::ReplyBufferSize - 1;
-    QTest::newRow("plain") << QByteArray("cal targetlib") << false << "cal targetlib";
-    QTest::newRow("over-long is cut") << QByteArray(500, 'a') << false << QString(cut, 'a');
-    QTest::newRow("unterminated is terminated")
-        << QByteArray(500, 'z') << true << QString(cut, 'z');
-    QTest::newRow("latin-1") << QByteArray("Gr\xf6\xdf") << false
-                             << QString::fromLatin1("Gr\xf6\xdf");
-}
-
-void TestCommandChannel::replies()
-{
-    QFETCH(QByteArray, reply);
-    QFETCH(bool, unterminated);
-    sim::SimulatedController controller;
-    controller.replaceReply("status active", reply, -1, unterminated);
-    QString value = "stale";
-    QCOMPARE(CommandChannel(&controller, nullptr).getString("status active", &value), 0);
-    QTEST(value, "expected");
-}
-
-void TestCommandChannel::metaCommand_data()
-{
+    QTest::addColumn<QString>(
+        "command"); // "status active" read as text, a count, or a meta command
     QTest::addColumn<QByteArray>("reply");
     QTest::addColumn<int>("failure");
-    QTest::addColumn<bool>("done");
+    QTest::addColumn<QString>("read"); // "failed: " for a non-zero result
 
-    QTest::newRow("velora2 ok") << QByteArray("velora2 ok") << 0 << true;
-    QTest::newRow("empty reply") << QByteArray() << 0 << false;
-    QTest::newRow("error reply") << QByteArray("velora2 error: busy") << 0 << false;
-    QTest::newRow("trailing blank") << QByteArray("velora2 ok ") << 0 << false;
-    QTest::newRow("ok but channel failed") << QByteArray("velora2 ok") << 3 << false;
+    const QString text("status active"), count("targetlib number_of_targets");
+    const QString stop("velora2 cal targetlib stop"), cut(IOManager::ReplyBufferSize - 1, 'z');
+    // clang-format off
+    QTest::newRow("text") << text << QByteArray("cal targetlib") << 0 << "cal targetlib";
+    QTest::newRow("over-long text is cut") << text << QByteArray(500, 'z') << 0 << cut;
+    QTest::newRow("unterminated text is terminated") << text << QByteArray(500, 'z') << -1 << cut;
+    QTest::newRow("latin-1") << text << QByteArray("Gr\xf6\xdf") << 0 << QString::fromLatin1("Gr\xf6\xdf");
+    QTest::newRow("three digits at most") << count << QByteArray("999") << 0 << "999";
+    QTest::newRow("more than ids can name") << count << QByteArray("1000") << 0 << "failed: 0";
+    QTest::newRow("negative count") << count << QByteArray("-5") << 0 << "failed: 0";
+    QTest::newRow("no number") << count << QByteArray("many") << 0 << "failed: 0";
+    QTest::newRow("velora2 ok") << stop << QByteArray("velora2 ok") << 0 << "";
+    QTest::newRow("empty meta reply") << stop << QByteArray() << 0 << "failed: ";
+    QTest::newRow("meta error reply") << stop << QByteArray("velora2 error: busy") << 0 << "failed: ";
+    QTest::newRow("meta trailing blank") << stop << QByteArray("velora2 ok ") << 0 << "failed: ";
+    QTest::newRow("ok but channel failed") << stop << QByteArray("velora2 ok") << 3 << "failed: ";
+    // clang-format on
 }
 
-void TestCommandChannel::metaCommand()
+void TestCommandChannel::reads()
 {
+    QFETCH(QString, command);
     QFETCH(QByteArray, reply);
     QFETCH(int, failure);
     sim::SimulatedController controller;
-    controller.replaceReply("velora2 cal targetlib stop", reply);
-    if (failure)
-        controller.failCommand("velora2 cal targetlib stop", failure);
-    CommandChannel channel(&controller, nullptr);
-    QTEST(channel.sendMetaCommand("velora2 cal targetlib stop") == 0, "done");
-    QCOMPARE(controller.commands(), QStringList { "velora2 cal targetlib stop" });
-}
-
-void TestCommandChannel::counts_data()
-{
-    QTest::addColumn<QString>("reply");
-    QTest::addColumn<int>("count"); // -1: refused, count 0
-
-    QTest::newRow("three digits at most") << "999" << 999;
-    QTest::newRow("more than ids can name") << "1000" << -1;
-    QTest::newRow("negative") << "-5" << -1;
-    QTest::newRow("no number") << "many" << -1;
-}
-
-void TestCommandChannel::counts()
-{
-    QFETCH(QString, reply);
-    QFETCH(int, count);
-    sim::SimulatedController controller;
-    controller.replaceReply("targetlib number_of_targets", reply.toLatin1());
-    int value = 7;
-    const int result
-        = CommandChannel(&controller, nullptr).getCount("targetlib number_of_targets", &value);
-    QCOMPARE(result == 0, count >= 0);
-    QCOMPARE(value, qMax(count, 0));
+    controller.replaceReply(command, reply, -1, failure < 0);
+    if (failure > 0)
+        controller.failCommand(command, failure);
+    const CommandChannel channel(&controller, nullptr);
+    QString value = "stale";
+    int result = 0, count = 7;
+    if (command.startsWith("velora2")) {
+        value.clear();
+        result = channel.sendMetaCommand(command);
+    } else if (command.contains("number")) {
+        result = channel.getCount(command, &count);
+        value = QString::number(count);
+    } else {
+        result = channel.getString(command, &value);
+    }
+    QTEST((result ? "failed: " : "") + value, "read");
+    QCOMPARE(controller.commands(), QStringList { command });
 }
 
 void TestCommandChannel::failuresGiveNeutralValues()
@@ -188,7 +147,7 @@ void TestCommandChannel::failuresGiveNeutralValues()
     controller.failCommand("*");
     for (IOManager *io :
         { static_cast<IOManager *>(&controller), static_cast<IOManager *>(nullptr) }) {
-        CommandChannel channel(io, nullptr);
+        const CommandChannel channel(io, nullptr);
         int count = 7;
         double progress = 7;
         bool flag = true;
@@ -201,7 +160,7 @@ void TestCommandChannel::failuresGiveNeutralValues()
         QCOMPARE(count + progress + flag, 0.0);
         QCOMPARE(text, QString());
     }
-    QCOMPARE(controller.reports(), QStringList()); // failed reads report nothing by themselves
+    QCOMPARE(controller.reports(), QStringList()); // the callers report, not the channel
 }
 
 void TestCommandChannel::reportGoesToMessageLog()
@@ -211,9 +170,8 @@ void TestCommandChannel::reportGoesToMessageLog()
     CommandChannel(&controller, nullptr).report(text);
     QCOMPARE(controller.log().size(), 1);
     const sim::SimulatedController::LogEntry entry = controller.log().first();
-    QCOMPARE(entry.operation, QString("sendMessage"));
-    QCOMPARE(QStringList({ entry.receiver, entry.sender, entry.text }),
-        QStringList({ "standard", "VELORA4", text }));
+    QCOMPARE(QStringList({ entry.operation, entry.receiver, entry.sender, entry.text }),
+        QStringList({ "sendMessage", "standard", "VELORA4", text }));
     QCOMPARE(entry.level, 1);
     CommandChannel(nullptr, nullptr).report(text); // nobody listens: no crash
 }
