@@ -1,8 +1,6 @@
 #include "angletablewidget.h"
 #include "fixedangledlg.h"
 
-#include "temporaryhome.h"
-
 #include <modaldriver.h>
 #include <testkit.h>
 
@@ -235,5 +233,5 @@ void TestFixedAngleDlg::help()
     QCOMPARE(pictures, 2);
 }
 
-TRACKING_TEST_MAIN_WITH_TEMPORARY_HOME(TestFixedAngleDlg)
+QTEST_MAIN(TestFixedAngleDlg)
 #include "tst_fixedangledlg.moc"

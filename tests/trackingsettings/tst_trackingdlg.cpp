@@ -1,8 +1,9 @@
 #include "trackingdlg.h"
 
-#include "temporaryhome.h"
-
 #include <testkit.h>
+
+#include <csignal>
+#include <sys/resource.h>
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -11,6 +12,32 @@
 
 using testkit::child;
 
+namespace
+{
+QString preferencesDirectory()
+{
+    return QDir::homePath() + "/.ZEM/VELORA4/modules/trackingsettings/v3.0.5/config";
+}
+
+QString preferencesFile()
+{
+    return preferencesDirectory() + "/trackingsettings-preferences.xml";
+}
+
+QByteArray readPreferences()
+{
+    QFile file(preferencesFile());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writePreferences(const QByteArray &content)
+{
+    QDir().mkpath(preferencesDirectory());
+    QFile file(preferencesFile());
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+} // namespace
+
 class TestTrackingDlg : public QObject
 {
     Q_OBJECT
@@ -18,7 +45,8 @@ class TestTrackingDlg : public QObject
 private slots:
     void init()
     {
-        removePreferences();
+        QDir(QDir::homePath() + "/.ZEM").removeRecursively();
+        QFile::remove(QDir::homePath() + "/.ZEM");
         testkit::useScenario(controller);
     }
     void cleanup() { testkit::closeAllAndCheck(); }
@@ -27,6 +55,7 @@ private slots:
     void axis_data();
     void axis();
     void advancedOpensFixedAngles();
+    void failedWriteKeepsPreviousFile();
 
 private:
     // Opens the dialog, runs action on it while shown, then clicks the button.
@@ -56,12 +85,13 @@ int TestTrackingDlg::open(
 // version and just below it.
 void TestTrackingDlg::session_data()
 {
-    QTest::addColumn<QString>("setup"); // version|shown|remembered|orbilux|fail:PATTERN|PATH=VALUE
+    // version|shown|remembered|noangle|orbilux|prefs:XML|nofile|obstacle:dir|file|fail:PATTERN|PATH=VALUE
+    QTest::addColumn<QString>("setup");
     QTest::addColumn<QString>("keys"); // space: 3DOF box, down: axis combo, pulse:RADIO
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("controls"); // visible ones; disabled in brackets
     QTest::addColumn<QString>("commands"); // every command from construction on
-    QTest::addColumn<QString>("report");
+    QTest::addColumn<QString>("report"); // until the dialog is destroyed
 
     const QString L = "config is_changeable, ",
                   R = "standard calculate_marker, tracking auto_restart";
@@ -72,6 +102,10 @@ void TestTrackingDlg::session_data()
     const QString ok = " advanced ok cancel", marker = ", standard calculate_marker ",
                   restart = ", tracking auto_restart ";
     const QString pulse = all + ", tracking pulse ", error = "Error: Unable to set ";
+    const QString plain = L + A + "standard fixed_angle b04, " + forced + R + X,
+                  file = preferencesFile();
+    const QString load = "Error: Loading tracking settings preferences",
+                  builtIn = ". Using built-in values";
     // clang-format off
     QTest::newRow("0.13: no auto restart") << "0.13|shown" << "space" << "ok" << "force3d (autoReStart) (5dofAxis) ok cancel" << "standard calculate_marker, standard calculate_marker yes" << "";
     QTest::newRow("0.13, hidden: not forced") << "0.13" << "" << "ok" << "force3d (5dofAxis) ok cancel" << "standard calculate_marker" << "";
@@ -97,6 +131,14 @@ void TestTrackingDlg::session_data()
     QTest::newRow("pulse cameras refused") << "1.21|shown|fail:tracking pulse*" << "pulse:cameraSynchronous" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "synchronous_cameras" << error + "inertial tracking synchronous to cameras";
     QTest::newRow("pulse sensor refused") << "1.21|shown|fail:tracking pulse*" << "pulse:inertialSensor" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "inertial_sensor " << error + "inertial tracking to sensor";
     QTest::newRow("pulse before 1.21") << "1.20|shown" << "pulse:frequency" << "ok" << "force3d autoReStart 5dofAxis" + ok << all << error + "inertial tracking settings";
+    QTest::newRow("no preferences file") << "1.24|noangle|nofile" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "";
+    QTest::newRow("exact words: only HIDE true hides") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE VISIBLE=\"True\"/><AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"TRUE\"/></VELORA>" << "" << "cancel" << "force3d autoReStart 5dofAxis ok cancel" << L + A + "standard fixed_angle b04, " + R + X << "";
+    QTest::newRow("no attributes: neither") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE/><AUTO_RESTART_MEA_AFTER_SYNC_LOST/><OTHER/></VELORA>" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "";
+    QTest::newRow("a comment clears the advanced button") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE VISIBLE=\"true\"/><!-- x --></VELORA>" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "";
+    QTest::newRow("wrong root") << "1.24|noangle|prefs:<ZEM><FIXED_ANGLE VISIBLE=\"true\"/></ZEM>" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << load + " while parsing " + file + " : The file doesn't look like a valid preferences file" + builtIn;
+    QTest::newRow("malformed") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE/></VELORA" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << load + " while parsing " + file + " (Line 1, Column 31) :\nunexpected end of file" + builtIn;
+    QTest::newRow("a directory where the file belongs") << "1.24|noangle|obstacle:file" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << load + ". File " + file + " cannot be opened for reading" + builtIn + "|Error: Writing tracking preferences. File " + file + " cannot be opened for writing";
+    QTest::newRow("a file where the directory belongs") << "1.24|noangle|obstacle:dir" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "Error: Writing tracking preferences. Directory " + preferencesDirectory() + " doesn't exist and cannot be created";
     // clang-format on
 }
 
@@ -108,18 +150,31 @@ void TestTrackingDlg::session()
     QStringList parts = setup.split('|');
     const QStringList version = parts.takeFirst().split('.');
     controller.backendVersions().backendVersion = { version[0].toInt(), version[1].toInt(), 0 };
+    QByteArray preferences = "<VELORA>";
+    if (parts.contains("remembered"))
+        preferences += "<FIXED_ANGLE VISIBLE=\"true\"/>";
+    if (parts.contains("shown"))
+        preferences += "<AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"false\"/>";
+    preferences += "</VELORA>";
     for (const QString &part : parts) {
         if (part == "orbilux")
             controller.backendVersions().systemType = "ORBILUX compact";
+        else if (part == "noangle")
+            controller.setValue("standard fixed_angle b03", "no 0 no 0 no 0");
+        else if (part.startsWith("prefs:"))
+            preferences = part.mid(6).toUtf8();
         else if (part.startsWith("fail:"))
             controller.failCommand(part.mid(5));
         else if (part.contains('='))
             controller.setValue(part.section('=', 0, 0), part.section('=', 1));
     }
-    QVERIFY(writePreferences(QByteArray("<VELORA>")
-        + (parts.contains("remembered") ? "<FIXED_ANGLE VISIBLE=\"true\"/>" : "")
-        + (parts.contains("shown") ? "<AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"false\"/>" : "")
-        + "</VELORA>"));
+    // Things in the way stop even root, whom permissions would not.
+    if (parts.contains("obstacle:file"))
+        QVERIFY(QDir().mkpath(preferencesFile()));
+    else if (parts.contains("obstacle:dir"))
+        QVERIFY(QFile(QDir::homePath() + "/.ZEM").open(QIODevice::WriteOnly));
+    else if (!parts.contains("nofile"))
+        QVERIFY(writePreferences(preferences));
     QScopedPointer<TrackingDlg> dialog(newDialog());
     QStringList controls;
     const int result = open(
@@ -151,11 +206,18 @@ void TestTrackingDlg::session()
     QCOMPARE(result, int(button == "ok" ? QDialog::Accepted : QDialog::Rejected));
     QTEST(controls.join(' '), "controls");
     QTEST(controller.commands().join(", "), "commands");
-    QTEST(controller.reports().join('|'), "report");
-    // Once shown, the button stays offered at the next start.
+    // Destroying the dialog writes what it showed: once offered, the
+    // advanced button stays offered at the next start.
     dialog.reset();
-    QCOMPARE(readPreferences().contains("<FIXED_ANGLE VISIBLE=\"true\"/>"),
-        controls.join(' ').contains("advanced"));
+    QTEST(controller.reports().join('|'), "report");
+    if (parts.contains("obstacle:file") || parts.contains("obstacle:dir"))
+        return;
+    const bool hide = !controls.contains("autoReStart") && !parts.contains("shown");
+    QCOMPARE(readPreferences(),
+        QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<VELORA>\n    <FIXED_ANGLE")
+            + (controls.join(' ').contains("advanced") ? " VISIBLE=\"true\"" : "")
+            + "/>\n    <AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"" + (hide ? "true" : "false")
+            + "\"/>\n</VELORA>\n");
 }
 
 void TestTrackingDlg::axis_data()
@@ -207,5 +269,37 @@ void TestTrackingDlg::advancedOpensFixedAngles()
     QCOMPARE(driver.seen().at(1).title, QString("Fixed Angle Settings"));
 }
 
-TRACKING_TEST_MAIN_WITH_TEMPORARY_HOME(TestTrackingDlg)
+// A disk that is full after 16 bytes: the previous file stays as it was.
+void TestTrackingDlg::failedWriteKeepsPreviousFile()
+{
+    const QByteArray previous("<VELORA><FIXED_ANGLE VISIBLE=\"true\"/></VELORA>");
+    QVERIFY(writePreferences(previous));
+    QScopedPointer<TrackingDlg> dialog(newDialog());
+    rlimit saved {};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &saved), 0);
+    rlimit small = saved;
+    small.rlim_cur = 16;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+    dialog.reset();
+    setrlimit(RLIMIT_FSIZE, &saved);
+    std::signal(SIGXFSZ, handler);
+    QCOMPARE(controller.reports(),
+        QStringList { "Error: Writing tracking preferences. File " + preferencesFile()
+            + " cannot be opened for writing" });
+    QCOMPARE(readPreferences(), previous);
+    QCOMPARE(QDir(preferencesDirectory()).entryList(QDir::Files | QDir::Hidden),
+        QStringList { "trackingsettings-preferences.xml" });
+}
+
+// The dialog keeps its preferences under the home directory: a home of its
+// own, set before QApplication reads it.
+int main(int argc, char **argv)
+{
+    QTemporaryDir home;
+    qputenv("HOME", QFile::encodeName(home.path()));
+    QApplication app(argc, argv);
+    TestTrackingDlg test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_trackingdlg.moc"
