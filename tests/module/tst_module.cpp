@@ -25,9 +25,7 @@ private slots:
     void properties_data();
     void properties();
     void menuEntries();
-    void entriesBuiltOnceUntilCleanup();
-    void actionsOpenTheirDialogs();
-    void shutdownLeavesMessageService();
+    void lifecycle();
 
 private:
     sim::SimulatedController controller;
@@ -123,16 +121,34 @@ void TestModule::menuEntries()
     module.cleanup();
 }
 
-void TestModule::entriesBuiltOnceUntilCleanup()
+// As a host uses the module: entries once, the actions open their dialogs,
+// shutdown() ends the messages, cleanup() ends the dialogs, entries again.
+void TestModule::lifecycle()
 {
+    sim::SimulatedController controller; // its own: deleted dialogs leave receivers behind
     TrackingSettingBodyAdminModule module;
     module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
     const QList<MenuEntry *> first = module.menuEntries();
-    QPointer<QDialog> oldDialog = first.at(1)->dialog;
     const int widgets = QApplication::allWidgets().size();
     QCOMPARE(module.menuEntries(), first);
     QCOMPARE(QApplication::allWidgets().size(), widgets);
-
+    for (const MenuEntry *entry : first) {
+        ModalDriver driver;
+        driver.reject();
+        entry->action->trigger();
+        QCOMPARE(driver.seen().size(), 1);
+        QCOMPARE(
+            driver.seen().first().className, QString(entry->dialog->metaObject()->className()));
+    }
+    auto *admin = qobject_cast<BodyAdministrationDlg *>(first.at(1)->dialog);
+    QSignalSpy announced(admin->messageReceiver(), &BodyAdminMessageReceiver::BodyCalAvailable);
+    for (const char *name : { "GlobalEvent", "BodyAdministrationModule", "GlobalEvent" }) {
+        controller.sendMessage(name, "BodyCalModule", 1, "bodycalibration available");
+        if (announced.count() == 2)
+            module.shutdown();
+    }
+    QCOMPARE(announced.count(), 2);
+    QPointer<QDialog> oldDialog = admin;
     module.cleanup();
     QVERIFY(oldDialog.isNull());
     module.cleanup();
@@ -140,48 +156,7 @@ void TestModule::entriesBuiltOnceUntilCleanup()
     QVERIFY(rebuilt.size() == 2 && rebuilt.at(0)->dialog && rebuilt.at(1)->dialog);
     // The host still holds the old action in its menu: it opens the new dialog.
     QCOMPARE(rebuilt.at(1)->action, first.at(1)->action);
-    module.cleanup();
-}
-
-void TestModule::actionsOpenTheirDialogs()
-{
-    TrackingSettingBodyAdminModule module;
-    module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
-    const QList<MenuEntry *> entries = module.menuEntries();
-
-    for (const MenuEntry *entry : entries) {
-        ModalDriver driver;
-        driver.reject();
-        entry->action->trigger();
-        QCOMPARE(driver.pending(), 0);
-        QCOMPARE(driver.seen().size(), 1);
-        QCOMPARE(
-            driver.seen().first().className, QString(entry->dialog->metaObject()->className()));
-        QVERIFY(!entry->dialog->isVisible());
-    }
-    module.cleanup();
-}
-
-void TestModule::shutdownLeavesMessageService()
-{
-    // Its own controller: the other tests leave receivers of deleted dialogs behind.
-    sim::SimulatedController controller;
-    TrackingSettingBodyAdminModule module;
-    module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
-    auto *dialog = qobject_cast<BodyAdministrationDlg *>(module.menuEntries().at(1)->dialog);
-    QSignalSpy announced(dialog->messageReceiver(), &BodyAdminMessageReceiver::BodyCalAvailable);
-
-    controller.sendMessage("GlobalEvent", "BodyCalModule", 1, "bodycalibration available");
-    controller.sendMessage(
-        "BodyAdministrationModule", "BodyCalModule", 1, "bodycalibration available");
-    QCOMPARE(announced.count(), 2);
-
     module.shutdown();
-    controller.sendMessage("GlobalEvent", "BodyCalModule", 1, "bodycalibration available");
-    controller.sendMessage(
-        "BodyAdministrationModule", "BodyCalModule", 1, "bodycalibration available");
-    QCOMPARE(announced.count(), 2);
-    QVERIFY(dialog); // the dialogs stay until cleanup()
     module.cleanup();
 }
 
