@@ -58,6 +58,19 @@ inline void useScenario(sim::SimulatedController &controller, int major = 1, int
     controller.clearLog();
 }
 
+// Changes the controller as a row says: "PATH=VALUE" sets a parameter, any
+// other part makes that command fail; parts are separated by '|'.
+inline void apply(sim::SimulatedController &controller, const QString &changes)
+{
+    for (const QString &part : changes.split(QLatin1Char('|'), Qt::SkipEmptyParts)) {
+        if (part.contains(QLatin1Char('=')))
+            controller.setValue(
+                part.section(QLatin1Char('='), 0, 0), part.section(QLatin1Char('='), 1));
+        else
+            controller.failCommand(part);
+    }
+}
+
 // For cleanup(): no modal loop and no top-level widget may outlive a test.
 inline void closeAllAndCheck()
 {

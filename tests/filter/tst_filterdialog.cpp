@@ -172,10 +172,7 @@ void TestFilterDialog::session()
     QFETCH(QString, input);
     QFETCH(QString, look);
     controller.backendVersions().backendVersion = { 1, minor, 0 };
-    if (setting.contains('='))
-        controller.setValue(setting.section('=', 0, 0), setting.section('=', 1));
-    else if (!setting.isEmpty())
-        controller.failCommand(setting);
+    testkit::apply(controller, setting);
     FilterDialog dialog(&controller, nullptr, &controller.backendVersions());
     QStringList shown, sent;
     QString message;

@@ -1,7 +1,7 @@
 #include "target.h"
 #include "targetlibrary.h"
 
-#include <simulatedcontroller.h>
+#include <testkit.h>
 
 #include <QtTest>
 
@@ -58,12 +58,7 @@ void TestTargetlibrary::loads()
         "targetlib number_of_group_members g01 = 1\n"
         "targetlib group_member g01 m01 = t01\n",
         "library");
-    for (const QString &part : change.split('|', Qt::SkipEmptyParts)) {
-        if (part.contains('='))
-            controller.setValue(part.section('=', 0, 0), part.section('=', 1));
-        else
-            controller.failCommand(part);
-    }
+    testkit::apply(controller, change);
     Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
     QStringList shown;
     for (const Target *target : qAsConst(library.targets))
