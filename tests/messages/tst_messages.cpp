@@ -13,7 +13,6 @@ class TestMessages : public QObject
 private slots:
     void matching_data();
     void matching();
-    void subscription();
     void requests_data();
     void requests();
 };
@@ -57,25 +56,6 @@ void TestMessages::matching()
     QCOMPARE(calibration.count(), signal == "BodyCalAvailable" ? 1 : 0);
     QCOMPARE(adjustment.count(), signal == "BodyAdjustmentAvailable" ? 1 : 0);
     QCOMPARE(configuration.count(), signal == "activeConfigurationChanged" ? 1 : 0);
-}
-
-void TestMessages::subscription()
-{
-    sim::SimulatedController controller;
-    CommandChannel channel(&controller, &controller.backendVersions());
-    BodyAdminMessageReceiver receiver;
-    QSignalSpy reopen(&receiver, &BodyAdminMessageReceiver::dialogReopen);
-
-    receiver.subscribe(channel);
-    controller.sendMessage("BodyAdministrationModule", "BodyCalModule", 1, "reopen");
-    controller.sendMessage("GlobalEvent", "BodyCalModule", 1, "reopen");
-    controller.sendMessage("SomebodyElse", "BodyCalModule", 1, "reopen");
-    QCOMPARE(reopen.count(), 2);
-
-    receiver.unsubscribe(channel);
-    controller.sendMessage("BodyAdministrationModule", "BodyCalModule", 1, "reopen");
-    controller.sendMessage("GlobalEvent", "BodyCalModule", 1, "reopen");
-    QCOMPARE(reopen.count(), 2);
 }
 
 void TestMessages::requests_data()
