@@ -1,10 +1,17 @@
-#include "logdock.h"
+#include "consoleline.h"
+#include "demooptions.h"
+#include "demowindow.h"
+#include "logfilter.h"
+#include "logwindow.h"
 #include "simulatorlogmodel.h"
 
 #include <modaldriver.h>
 
+#include <QAction>
+#include <QDialog>
 #include <QScrollBar>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using LogEntry = sim::SimulatedController::LogEntry;
@@ -12,19 +19,42 @@ using LogEntry = sim::SimulatedController::LogEntry;
 namespace
 {
 
-LogEntry command(const QString &text, int result = 0)
+LogEntry entry(LogEntry::Kind kind, const QString &text, int result = 0,
+    const QString &receiver = QString(), const QString &reply = QString())
 {
-    LogEntry entry;
-    entry.kind = LogEntry::Query;
-    entry.operation = QStringLiteral("getString");
-    entry.text = text;
-    entry.result = result;
-    return entry;
+    LogEntry e;
+    e.kind = kind;
+    e.operation
+        = kind == LogEntry::Message ? QStringLiteral("sendMessage") : QStringLiteral("getString");
+    e.text = text;
+    e.result = result;
+    e.receiver = receiver;
+    e.sender = receiver.isEmpty() ? QString() : QStringLiteral("VELORA4");
+    e.reply = reply;
+    return e;
+}
+
+// A query, a failed setting, an error report, a notice, a hand-over message.
+void fill(SimulatorLogModel *model)
+{
+    model->append(entry(LogEntry::Query, "status active", 0, QString(), "none"));
+    model->append(entry(LogEntry::Setting, "standard number_of_bodies 5", 3));
+    model->append(entry(LogEntry::Message, "Error: Unable to get group name", 0, "standard"));
+    model->append(entry(LogEntry::Message, "t04 already calibrated", 0, "standard"));
+    model->append(entry(LogEntry::Message, "OpenBodyCalDialog standard b01", 0, "BodyCalModule"));
+}
+
+QStringList texts(const QAbstractItemModel &model)
+{
+    QStringList shown;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QString text = model.index(row, SimulatorLogModel::TextColumn).data().toString();
+        shown << (text.contains(QChar(0x2192)) ? text.section(": ", 1) : text);
+    }
+    return shown;
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(LogEntry::Kind)
 
 class TestDemoLog : public QObject
 {
@@ -32,173 +62,168 @@ class TestDemoLog : public QObject
 
 private slots:
     void cleanup();
-
-    void showsEntry_data();
-    void showsEntry();
-    void insertsOneRowPerEntry();
-    void dropsOldestAtCap();
+    void marksFailuresAndErrorReports();
+    void filters_data();
+    void filters();
     void followsTailOnlyAtBottom();
+    void savesAndWritesAsItHappens();
+    void staysUsableWhileModuleDialogRuns();
+    void consoleTakesLinesWithHistory();
 };
 
 void TestDemoLog::cleanup()
 {
+    ModalDriver::closeAllModals();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     const QStringList left = ModalDriver::topLevelWidgetNames();
     QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1String(", "))));
 }
 
-void TestDemoLog::showsEntry_data()
+void TestDemoLog::marksFailuresAndErrorReports()
 {
-    QTest::addColumn<LogEntry::Kind>("kind");
-    QTest::addColumn<QString>("operation");
+    SimulatorLogModel model;
+    fill(&model);
+    QStringList marked;
+    for (int row = 0; row < model.rowCount(); ++row)
+        marked << model.lineText(row).section('\t', 2, 2)
+                + (model.lineText(row).endsWith("\tFAILED") ? "!" : "");
+    QCOMPARE(marked,
+        QStringList({ "status active", "standard number_of_bodies 5!",
+            "VELORA4 \u2192 standard: Error: Unable to get group name!",
+            "VELORA4 \u2192 standard: t04 already calibrated",
+            "VELORA4 \u2192 BodyCalModule: OpenBodyCalDialog standard b01" }));
+    QVERIFY(QTime::fromString(model.lineText(0).section('\t', 0, 0), "HH:mm:ss.zzz").isValid());
+    QCOMPARE(model.lineText(0).section('\t', 3, 4), QStringLiteral("none\t0"));
+    // Oldest rows go once the cap is reached; the newest stay in order.
+    SimulatorLogModel capped(10);
+    for (int i = 1; i <= 25; ++i)
+        capped.append(entry(LogEntry::Query, QString::number(i)));
+    QCOMPARE(texts(capped).last(), QStringLiteral("25"));
+    QVERIFY(capped.rowCount() <= 10 && texts(capped).first().toInt() == 26 - capped.rowCount());
+}
+
+void TestDemoLog::filters_data()
+{
+    QTest::addColumn<int>("show");
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("reply");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("sender");
-    QTest::addColumn<QString>("receiver");
-    QTest::addColumn<QString>("error");
-    QTest::addColumn<QString>("shownText");
-    QTest::addColumn<QString>("shownReply");
-    QTest::addColumn<QString>("shownResult");
-    QTest::addColumn<bool>("failure");
+    QTest::addColumn<QStringList>("shown");
 
-    const QString none;
-    QTest::newRow("meta command done")
-        << LogEntry::Command << "sendCommand"
-        << "velora2 cal targetlib start"
-        << "velora2 ok" << 0 << none << none << none << "velora2 cal targetlib start"
-        << "velora2 ok"
-        << "0" << false;
-    QTest::newRow("setting refused, with the reason")
-        << LogEntry::Setting << "setParameter"
-        << "standard number_of_bodies 9" << none << 2 << none << none << "out of range"
-        << "standard number_of_bodies 9"
-        << "out of range"
-        << "2" << true;
-    QTest::newRow("reply and reason") << LogEntry::Query << "getInt"
-                                      << "status progress"
-                                      << "abc" << 2 << none << none << "no number"
-                                      << "status progress"
-                                      << "abc (no number)"
-                                      << "2" << true;
-    QTest::newRow("reply time-out set")
-        << LogEntry::ReplyTimeout << "setReplyTimeout"
-        << "0 5000 0" << none << 0 << none << none << none << "0 5000 0" << none << none << false;
-    QTest::newRow("request to a module")
-        << LogEntry::Message << "sendMessage"
-        << "OpenBodyCalDialog standard b01" << none << 0 << "BodyAdministrationModule"
-        << "BodyCalModule" << none
-        << "BodyAdministrationModule \u2192 BodyCalModule: OpenBodyCalDialog standard b01" << none
-        << none << false;
-    QTest::newRow("error report") << LogEntry::Message << "sendMessage"
-                                  << "Error: Unable to get group name" << none << 0 << "VELORA4"
-                                  << "standard" << none
-                                  << "VELORA4 \u2192 standard: Error: Unable to get group name"
-                                  << none << none << true;
-    QTest::newRow("notice") << LogEntry::Message << "sendMessage"
-                            << "target library calibration started" << none << 0 << "VELORA4"
-                            << "standard" << none
-                            << "VELORA4 \u2192 standard: target library calibration started" << none
-                            << none << false;
-    QTest::newRow("registration") << LogEntry::Message << "registerReceiver" << none << none << 0
-                                  << none << "GlobalEvent" << none << "GlobalEvent" << none << none
-                                  << false;
+    QTest::newRow("calls") << int(LogFilter::Calls) << QString()
+                           << QStringList { "status active", "standard number_of_bodies 5" };
+    QTest::newRow("failures") << int(LogFilter::Failures) << QString()
+                              << QStringList { "standard number_of_bodies 5",
+                                     "Error: Unable to get group name" };
+    QTest::newRow("messages with text, any case") << int(
+        LogFilter::Messages) << "STANDARD b01" << QStringList { "OpenBodyCalDialog standard b01" };
+    QTest::newRow("text in the reply")
+        << int(LogFilter::All) << "none" << QStringList { "status active" };
 }
 
-void TestDemoLog::showsEntry()
+void TestDemoLog::filters()
 {
-    QFETCH(LogEntry::Kind, kind);
-    QFETCH(QString, operation);
+    QFETCH(int, show);
     QFETCH(QString, text);
-    QFETCH(QString, reply);
-    QFETCH(int, result);
-    QFETCH(QString, sender);
-    QFETCH(QString, receiver);
-    QFETCH(QString, error);
-    QFETCH(QString, shownText);
-    QFETCH(QString, shownReply);
-    QFETCH(QString, shownResult);
-    QFETCH(bool, failure);
-
-    LogEntry entry;
-    entry.kind = kind;
-    entry.operation = operation;
-    entry.text = text;
-    entry.reply = reply;
-    entry.result = result;
-    entry.sender = sender;
-    entry.receiver = receiver;
-    entry.error = error;
-
     SimulatorLogModel model;
-    model.append(command(QStringLiteral("status active"), 1));
-    model.append(entry);
-    const auto cell = [&model](int column, int role = Qt::DisplayRole) {
-        return model.data(model.index(1, column), role);
-    };
-    QCOMPARE(cell(SimulatorLogModel::OperationColumn).toString(), operation);
-    QCOMPARE(cell(SimulatorLogModel::TextColumn).toString(), shownText);
-    QCOMPARE(cell(SimulatorLogModel::ReplyColumn).toString(), shownReply);
-    QCOMPARE(cell(SimulatorLogModel::ResultColumn).toString(), shownResult);
-    QCOMPARE(SimulatorLogModel::isFailure(entry), failure);
-    // Failures share one look that nothing else has.
-    const QVariant failureLook = model.data(model.index(0, 0), Qt::BackgroundRole);
-    QCOMPARE(cell(0, Qt::BackgroundRole) == failureLook, failure);
-}
-
-void TestDemoLog::insertsOneRowPerEntry()
-{
-    SimulatorLogModel model;
-    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
-    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
-    for (int i = 0; i < 3; ++i)
-        model.append(command(QStringLiteral("c%1").arg(i)));
-
-    QCOMPARE(inserted.size(), 3);
-    for (int i = 0; i < 3; ++i) {
-        QCOMPARE(inserted.at(i).at(1).toInt(), i);
-        QCOMPARE(inserted.at(i).at(2).toInt(), i);
-    }
-    QCOMPARE(reset.size(), 0);
-
-    model.clear();
-    QCOMPARE(model.rowCount(), 0);
-}
-
-void TestDemoLog::dropsOldestAtCap()
-{
-    const int cap = 20;
-    SimulatorLogModel model(cap);
-    for (int i = 1; i <= 45; ++i)
-        model.append(command(QStringLiteral("c%1").arg(i)));
-
-    const int rows = model.rowCount();
-    QVERIFY2(rows <= cap && rows >= cap - cap / 10, qPrintable(QString::number(rows)));
-    // What is left is the newest entries, in order.
-    for (int row = 0; row < rows; ++row)
-        QCOMPARE(model.data(model.index(row, SimulatorLogModel::TextColumn)).toString(),
-            QStringLiteral("c%1").arg(45 - rows + 1 + row));
+    fill(&model);
+    LogFilter filter;
+    filter.setSourceModel(&model);
+    filter.setShow(LogFilter::Show(show));
+    filter.setFilterFixedString(text);
+    QTEST(texts(filter), "shown");
 }
 
 void TestDemoLog::followsTailOnlyAtBottom()
 {
     SimulatorLogModel model;
-    LogDock dock(&model);
-    dock.resize(400, 200);
-    dock.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dock));
-    const QScrollBar *bar = dock.view()->verticalScrollBar();
-
+    LogWindow window(&model);
+    window.resize(400, 200);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QScrollBar *bar = window.view()->verticalScrollBar();
     for (int i = 0; i < 100; ++i)
-        model.append(command(QStringLiteral("c%1").arg(i)));
+        model.append(entry(LogEntry::Query, QString::number(i)));
     QTRY_VERIFY(bar->maximum() > 0);
     QTRY_COMPARE(bar->value(), bar->maximum());
 
     // Someone reading older rows is not yanked away by new ones.
-    dock.view()->scrollToTop();
-    model.append(command(QStringLiteral("late")));
+    window.view()->scrollToTop();
+    model.append(entry(LogEntry::Query, "late"));
     QCoreApplication::processEvents();
     QCOMPARE(bar->value(), 0);
+}
+
+void TestDemoLog::savesAndWritesAsItHappens()
+{
+    QTemporaryDir dir;
+    SimulatorLogModel model;
+    model.append(entry(LogEntry::Query, "before"));
+    QString error;
+    QVERIFY(model.setLogFile(dir.filePath("live.log"), &error));
+    fill(&model);
+    // Written as it happens: readable before anything is closed.
+    QFile live(dir.filePath("live.log"));
+    QVERIFY(live.open(QIODevice::ReadOnly));
+    const QByteArray written = live.readAll();
+    QCOMPARE(written.count('\n'), 6);
+    QVERIFY(model.save(dir.filePath("saved.log"), &error));
+    QFile saved(dir.filePath("saved.log"));
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    QCOMPARE(saved.readAll(), written);
+    QVERIFY(!model.save(dir.filePath("no/such/folder/x.log"), &error));
+    QVERIFY(error.contains("no/such/folder"));
+}
+
+// Qt blocks every window but the modal dialog and its transient children;
+// the log window must be one of those.
+void TestDemoLog::staysUsableWhileModuleDialogRuns()
+{
+    DemoWindow window { DemoOptions() };
+    window.show();
+    window.logWindow()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.logWindow()));
+    QTableView *view = window.logWindow()->view();
+    QVERIFY(view->model()->rowCount() > 2);
+    int clicked = -1, currentRow = -2;
+    ModalDriver driver;
+    driver.answer([&](QWidget *modal) {
+        clicked = view->model()->rowCount() - 2;
+        const QModelIndex target = view->model()->index(clicked, 1);
+        view->scrollTo(target);
+        // Through the window system's path, where Qt applies modality.
+        const QPoint at
+            = view->viewport()->mapTo(view->window(), view->visualRect(target).center());
+        QTest::mouseClick(view->window()->windowHandle(), Qt::LeftButton, {}, at);
+        currentRow = view->currentIndex().row();
+        static_cast<QDialog *>(modal)->reject();
+    });
+    window.moduleActions().at(1)->trigger(); // body administration
+    QCOMPARE(driver.pending(), 0);
+    QCOMPARE(currentRow, clicked);
+    window.close();
+}
+
+void TestDemoLog::consoleTakesLinesWithHistory()
+{
+    DemoWindow window { DemoOptions() };
+    ConsoleLine *console = window.logWindow()->console();
+    for (const char *line :
+        { "config is_changeable = no", "@backend-version 1.x", "@fail status step_active" }) {
+        QTest::keyClicks(console, line);
+        QTest::keyClick(console, Qt::Key_Return);
+    }
+    QCOMPARE(window.controller()->value("config is_changeable"), QStringLiteral("no"));
+    char reply[200] = {};
+    QCOMPARE(window.controller()->getString(reply, "status step_active"), 1);
+    // The bad line is logged as failed with its reason.
+    const QString bad = window.logModel()->lineText(window.logModel()->rowCount() - 3);
+    QVERIFY2(bad.contains("@backend-version 1.x\tbad version") && bad.endsWith("FAILED"),
+        qPrintable(bad));
+    QTest::keyClick(console, Qt::Key_Up);
+    QTest::keyClick(console, Qt::Key_Up);
+    QCOMPARE(console->text(), QStringLiteral("@backend-version 1.x"));
+    QTest::keyClick(console, Qt::Key_Down);
+    QTest::keyClick(console, Qt::Key_Down);
+    QCOMPARE(console->text(), QString());
 }
 
 QTEST_MAIN(TestDemoLog)
