@@ -5,7 +5,9 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QRegularExpression>
+#include <QTranslator>
 
 #ifndef TRACKING_PLUGIN_PATH
 #define TRACKING_PLUGIN_PATH ""
@@ -181,6 +183,23 @@ QString DemoOptions::defaultPluginPath()
 QString DemoOptions::translationsFolder()
 {
     return installedOrBuilt(TRACKING_INSTALLED_TRANSLATIONS, TRACKING_TRANSLATIONS_DIR);
+}
+
+QStringList DemoOptions::installTranslations(const QString &language, QObject *owner)
+{
+    const QString qtFolder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    const QPair<QString, QString> files[] = { { QStringLiteral("tracking_"), translationsFolder() },
+        { QStringLiteral("velora-demo_"), translationsFolder() },
+        { QStringLiteral("qtbase_"), qtFolder } };
+    QStringList missing;
+    for (const auto &file : files) {
+        auto *translator = new QTranslator(owner);
+        if (translator->load(file.first + language, file.second))
+            QCoreApplication::installTranslator(translator);
+        else
+            missing << QDir(file.second).filePath(file.first + language);
+    }
+    return missing;
 }
 
 QString DemoOptions::scenarioFile(const QString &scenario)

@@ -34,6 +34,11 @@ public:
     // build made, so the demo runs from an install and from the build tree.
     static QString defaultPluginPath();
     static QString translationsFolder();
+    // Installs the module's, the demo's and Qt's own translation into
+    // language, as a host in that language does (Qt's makes the standard
+    // buttons follow); the translators are children of owner. Returns the
+    // files that were not found.
+    static QStringList installTranslations(const QString &language, QObject *owner);
     // The file for a --scenario value: a file, or the name of a built-in one;
     // empty when it is neither.
     static QString scenarioFile(const QString &scenario);

@@ -36,6 +36,7 @@ DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
     , m_logWindow(new LogWindow(m_logModel))
     , m_standIns(new StandInModules(m_controller, this, this))
 {
+    setObjectName(QStringLiteral("demo-host"));
     setWindowTitle(tr("Velora demo host"));
     setWindowIcon(AppIconEngine::icon());
     m_logWindow->setWindowIcon(windowIcon());

@@ -28,13 +28,15 @@ DialogRenderer::DialogRenderer(const QString &folder)
 {
 }
 
-QStringList DialogRenderer::render(QWidget *window, const QList<QAction *> &actions)
+QStringList DialogRenderer::render(const QList<QAction *> &actions, const QList<QWidget *> &windows)
 {
     m_folder.mkpath(QStringLiteral("."));
     QApplication::processEvents();
-    save(window, window, QStringLiteral("demo-host"));
     for (QAction *action : actions)
         open([action] { action->trigger(); });
+    QApplication::processEvents();
+    for (QWidget *window : windows)
+        save(window, window, window->objectName());
     return m_files;
 }
 

@@ -12,8 +12,8 @@
 class QAction;
 class QWidget;
 
-// Pictures of what a user sees without a display to see it on: a window,
-// every dialog the given actions open, each tab of them, and the dialogs
+// Pictures of what a user sees without a display to see it on: every
+// dialog the given actions open, each tab of them, and the dialogs
 // their help, advanced and filter buttons open in turn. Every dialog is
 // closed with Cancel, so nothing is changed. Each picture is also checked
 // for Alt letters used twice.
@@ -24,8 +24,9 @@ class DialogRenderer
 public:
     explicit DialogRenderer(const QString &folder);
 
-    // Returns the files written, in order.
-    QStringList render(QWidget *window, const QList<QAction *> &actions);
+    // Then the windows, each named by its object name, as the dialogs left
+    // them. Returns the files written, in order.
+    QStringList render(const QList<QAction *> &actions, const QList<QWidget *> &windows);
     // Files that could not be written.
     QStringList problems() const { return m_problems; }
     // Alt letters used twice in one picture: "FILE: Alt+X: ...".

@@ -27,7 +27,7 @@ LogWindow::LogWindow(SimulatorLogModel *model, QWidget *parent)
     , m_console(new ConsoleLine)
     , m_count(new QLabel)
 {
-    setObjectName(QStringLiteral("controllerLogWindow"));
+    setObjectName(QStringLiteral("controller-log"));
     setWindowTitle(tr("Controller log"));
     m_filter->setSourceModel(model);
 
@@ -93,20 +93,21 @@ LogWindow::LogWindow(SimulatorLogModel *model, QWidget *parent)
     layout->addWidget(m_view);
     layout->addLayout(bottom);
 
-    connect(m_filter, &QAbstractItemModel::rowsAboutToBeInserted, this, [this] {
-        const QScrollBar *bar = m_view->verticalScrollBar();
-        m_following = bar->value() == bar->maximum();
-    });
-    connect(m_filter, &QAbstractItemModel::rowsInserted, this, [this] {
+    // Following ends when the user leaves the bottom and resumes when he
+    // returns there; a growing range alone keeps the view at the bottom.
+    QScrollBar *bar = m_view->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this,
+        [this, bar](int value) { m_following = value == bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int, int maximum) {
         if (m_following)
-            m_view->scrollToBottom();
-        updateCount();
+            bar->setValue(maximum);
     });
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this, &LogWindow::updateCount);
     connect(m_filter, &QAbstractItemModel::rowsRemoved, this, &LogWindow::updateCount);
     connect(m_filter, &QAbstractItemModel::modelReset, this, &LogWindow::updateCount);
     connect(m_filter, &QAbstractItemModel::layoutChanged, this, &LogWindow::updateCount);
     updateCount();
-    resize(900, 360);
+    resize(1000, 380);
     qApp->installEventFilter(this);
 }
 

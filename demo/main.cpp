@@ -10,12 +10,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLibraryInfo>
 #include <QTextStream>
-#include <QTranslator>
-
-#include <memory>
-#include <vector>
 
 namespace
 {
@@ -36,31 +31,6 @@ bool hasDisplay()
 {
     return !qEnvironmentVariableIsEmpty("DISPLAY")
         || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-}
-
-// The module's, the demo's and Qt's own translation, as a host in that
-// language installs them; Qt's makes the standard buttons follow.
-void installTranslations(
-    const QString &language, std::vector<std::unique_ptr<QTranslator>> *kept, QTextStream &err)
-{
-    const QString folder = DemoOptions::translationsFolder();
-    const struct {
-        QString name;
-        QString folder;
-    } files[] = { { QStringLiteral("tracking_"), folder },
-        { QStringLiteral("velora-demo_"), folder },
-        { QStringLiteral("qtbase_"), QLibraryInfo::location(QLibraryInfo::TranslationsPath) } };
-    for (const auto &file : files) {
-        auto translator = std::make_unique<QTranslator>();
-        if (translator->load(file.name + language, file.folder)) {
-            QCoreApplication::installTranslator(translator.get());
-            kept->push_back(std::move(translator));
-        } else {
-            err << DemoOptions::tr("No translation %1 in %2; its texts stay in English.")
-                       .arg(file.name + language, file.folder)
-                << '\n';
-        }
-    }
 }
 
 } // namespace
@@ -113,9 +83,11 @@ int main(int argc, char *argv[])
         standard = qInstallMessageHandler(quietOffscreen);
     }
     QApplication app(argc, argv);
-    std::vector<std::unique_ptr<QTranslator>> translators;
-    if (!options.language.isEmpty())
-        installTranslations(options.language, &translators, err);
+    if (!options.language.isEmpty()) {
+        for (const QString &missing : DemoOptions::installTranslations(options.language, &app))
+            err << DemoOptions::tr("No translation %1; its texts stay in English.").arg(missing)
+                << '\n';
+    }
 
     DemoWindow window(options);
     if (!window.module()) {
@@ -150,8 +122,10 @@ int main(int argc, char *argv[])
     }
     if (!folder.isEmpty()) {
         window.show();
+        window.logWindow()->show();
         DialogRenderer renderer(folder);
-        for (const QString &file : renderer.render(&window, window.moduleActions()))
+        for (const QString &file :
+            renderer.render(window.moduleActions(), { &window, window.logWindow() }))
             out << file << '\n';
         for (const QString &problem : renderer.problems() + renderer.clashes())
             err << problem << '\n';

@@ -56,7 +56,7 @@ QVariant SimulatorLogModel::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return QVariant();
     const Row &row = m_rows.at(index.row());
-    const bool failure = isFailure(row.entry);
+    const bool failure = row.failure;
     const bool message = row.entry.kind == LogEntry::Message;
     switch (role) {
     case Qt::DisplayRole:
@@ -128,7 +128,7 @@ void SimulatorLogModel::append(const LogEntry &entry)
         endRemoveRows();
     }
     beginInsertRows(QModelIndex(), m_rows.size(), m_rows.size());
-    m_rows.append({ entry, QTime::currentTime() });
+    m_rows.append({ entry, QTime::currentTime(), isFailure(entry) });
     endInsertRows();
     if (m_logFile.isOpen()) {
         m_logFile.write((lineText(m_rows.size() - 1) + QLatin1Char('\n')).toUtf8());
@@ -148,7 +148,7 @@ QString SimulatorLogModel::lineText(int row) const
     QStringList cells;
     for (int column = 0; column < ColumnCount; ++column)
         cells << cellText(m_rows.at(row), column);
-    if (isFailure(m_rows.at(row).entry))
+    if (m_rows.at(row).failure)
         cells << QStringLiteral("FAILED");
     return cells.join(QLatin1Char('\t'));
 }

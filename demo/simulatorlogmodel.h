@@ -48,6 +48,7 @@ private:
     struct Row {
         sim::SimulatedController::LogEntry entry;
         QTime time;
+        bool failure; // worked out once: the notice check is not cheap
     };
     QString cellText(const Row &row, int column) const;
 

@@ -30,7 +30,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>Die eingebauten Szenarien auflisten und beenden.</translation>
     </message>
     <message>
-        <source>Controller software version, overriding the scenario's.</source>
+        <source>Controller software version, overriding the scenario&apos;s.</source>
         <translation>Version der Controller-Software, statt der des Szenarios.</translation>
     </message>
     <message>
@@ -38,7 +38,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>major.minor.patch</translation>
     </message>
     <message>
-        <source>Tracking-system model name, overriding the scenario's.</source>
+        <source>Tracking-system model name, overriding the scenario&apos;s.</source>
         <translation>Modellname des Tracking-Systems, statt dem des Szenarios.</translation>
     </message>
     <message>
@@ -46,7 +46,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>Text</translation>
     </message>
     <message>
-        <source>Tracking-system version, overriding the scenario's.</source>
+        <source>Tracking-system version, overriding the scenario&apos;s.</source>
         <translation>Version des Tracking-Systems, statt der des Szenarios.</translation>
     </message>
     <message>
@@ -70,7 +70,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>Das Controller-Protokoll laufend in &lt;Datei&gt; schreiben.</translation>
     </message>
     <message>
-        <source>On exit, save the controller's state as a scenario &lt;file&gt; that loads back to it.</source>
+        <source>On exit, save the controller&apos;s state as a scenario &lt;file&gt; that loads back to it.</source>
         <translation>Beim Beenden den Zustand des Controllers als Szenario &lt;Datei&gt; speichern, das ihn wiederherstellt.</translation>
     </message>
     <message>
@@ -86,16 +86,12 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>Unerwartetes Argument: %1</translation>
     </message>
     <message>
-        <source>No scenario file or built-in scenario "%1" (see --list-scenarios)</source>
+        <source>No scenario file or built-in scenario &quot;%1&quot; (see --list-scenarios)</source>
         <translation>Keine Szenariodatei und kein eingebautes Szenario „%1“ (siehe --list-scenarios)</translation>
     </message>
     <message>
-        <source>--%1 wants MAJOR.MINOR.PATCH, not "%2"</source>
+        <source>--%1 wants MAJOR.MINOR.PATCH, not &quot;%2&quot;</source>
         <translation>--%1 erwartet MAJOR.MINOR.PATCH, nicht „%2“</translation>
-    </message>
-    <message>
-        <source>No translation %1 in %2; its texts stay in English.</source>
-        <translation>Keine Übersetzung %1 in %2; diese Texte bleiben englisch.</translation>
     </message>
     <message>
         <source>Try --help.</source>
@@ -104,6 +100,10 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
     <message>
         <source>No display: rendering every dialog and tab of the scenario to %1</source>
         <translation>Kein Bildschirm: jeder Dialog und jede Registerkarte des Szenarios wird nach %1 gezeichnet</translation>
+    </message>
+    <message>
+        <source>No translation %1; its texts stay in English.</source>
+        <translation>Keine Übersetzung %1; diese Texte bleiben englisch.</translation>
     </message>
 </context>
 <context>
@@ -133,7 +133,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>&amp;Szenario speichern...</translation>
     </message>
     <message>
-        <source>Write the controller's state as a scenario file</source>
+        <source>Write the controller&apos;s state as a scenario file</source>
         <translation>Den Zustand des Controllers als Szenariodatei schreiben</translation>
     </message>
     <message>
@@ -153,7 +153,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>&amp;Konfiguration</translation>
     </message>
     <message>
-        <source>Send "ActiveConfigurationChanged" as the configuration module does</source>
+        <source>Send &quot;ActiveConfigurationChanged&quot; as the configuration module does</source>
         <translation>„ActiveConfigurationChanged“ senden, wie es das Konfigurationsmodul tut</translation>
     </message>
     <message>
@@ -233,7 +233,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>aus</translation>
     </message>
     <message>
-        <source>Open the module's dialogs from its menus. The controller log (View menu) shows every command and message the module exchanges with the simulated controller, failures marked red; its console takes scenario lines.</source>
+        <source>Open the module&apos;s dialogs from its menus. The controller log (View menu) shows every command and message the module exchanges with the simulated controller, failures marked red; its console takes scenario lines.</source>
         <translation>Die Dialoge des Moduls öffnen sich über seine Menüs. Das Controller-Protokoll (Menü Ansicht) zeigt jedes Kommando und jede Nachricht zwischen Modul und simuliertem Controller, Fehler rot markiert; seine Konsole nimmt Szenariozeilen an.</translation>
     </message>
     <message>
@@ -261,7 +261,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>Textdateien (*.log *.txt)</translation>
     </message>
     <message>
-        <source>Save the controller's state</source>
+        <source>Save the controller&apos;s state</source>
         <translation>Zustand des Controllers speichern</translation>
     </message>
     <message>
@@ -346,7 +346,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
 <context>
     <name>ModuleLoader</name>
     <message>
-        <source>The plug-in loaded, but its object (class %1) is not a ModuleInterface "%2"; it was probably built against another version of the host's interface header.</source>
+        <source>The plug-in loaded, but its object (class %1) is not a ModuleInterface &quot;%2&quot;; it was probably built against another version of the host&apos;s interface header.</source>
         <translation>Das Plug-in wurde geladen, aber sein Objekt (Klasse %1) ist kein ModuleInterface „%2“; es wurde wohl gegen eine andere Version der Schnittstellen-Header des Hosts gebaut.</translation>
     </message>
     <message>
@@ -378,7 +378,7 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>Debug</translation>
     </message>
     <message>
-        <source>What the file's metadata says:</source>
+        <source>What the file&apos;s metadata says:</source>
         <translation>Was die Metadaten der Datei sagen:</translation>
     </message>
     <message>
@@ -402,11 +402,11 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>Build</translation>
     </message>
     <message>
-        <source>QT_DEBUG_PLUGINS is set: the Qt plug-in loader's trace is on standard error.</source>
+        <source>QT_DEBUG_PLUGINS is set: the Qt plug-in loader&apos;s trace is on standard error.</source>
         <translation>QT_DEBUG_PLUGINS ist gesetzt: die Ablaufverfolgung des Qt-Plug-in-Laders steht auf der Standardfehlerausgabe.</translation>
     </message>
     <message>
-        <source>Rerun with QT_DEBUG_PLUGINS=1 to see the Qt plug-in loader's own trace.</source>
+        <source>Rerun with QT_DEBUG_PLUGINS=1 to see the Qt plug-in loader&apos;s own trace.</source>
         <translation>Mit QT_DEBUG_PLUGINS=1 neu starten, um die Ablaufverfolgung des Qt-Plug-in-Laders zu sehen.</translation>
     </message>
 </context>
