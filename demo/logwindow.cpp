@@ -118,8 +118,15 @@ bool LogWindow::eventFilter(QObject *watched, QEvent *event)
     if ((event->type() == QEvent::Show || event->type() == QEvent::Hide) && watched != this
         && watched->isWidgetType()) {
         auto *widget = static_cast<QWidget *>(watched);
-        if (widget->isWindow() && widget->isModal())
-            followModal(event->type() == QEvent::Show ? widget : QApplication::activeModalWidget());
+        if (!widget->isWindow() || !widget->isModal())
+            return QWidget::eventFilter(watched, event);
+        // A dialog of our own (saving the log) is our transient child already;
+        // following it would make the two each other's parent.
+        for (QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+            if (parent == this)
+                return QWidget::eventFilter(watched, event);
+        }
+        followModal(event->type() == QEvent::Show ? widget : QApplication::activeModalWidget());
     }
     return QWidget::eventFilter(watched, event);
 }
