@@ -22,6 +22,7 @@ QChar AcceleratorCheck::letter(const QString &text)
 QStringList AcceleratorCheck::clashes(QWidget *window)
 {
     QMap<QChar, QStringList> texts;
+    QStringList mismatches;
     const auto add = [&texts](const QString &text) {
         const QChar key = letter(text);
         if (!key.isNull())
@@ -34,10 +35,15 @@ QStringList AcceleratorCheck::clashes(QWidget *window)
         if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
             // A form may give a button a shortcut of its own in place of its mnemonic.
             const int key = button->shortcut().isEmpty() ? 0 : button->shortcut()[0];
-            if (key & Qt::AltModifier)
-                texts[QChar(key & ~Qt::KeyboardModifierMask).toUpper()] << button->text();
-            else
+            const QChar shortcut = QChar(key & ~Qt::KeyboardModifierMask).toUpper();
+            const QChar shown = letter(button->text());
+            if (!(key & Qt::AltModifier))
                 add(button->text());
+            else if (!shown.isNull() && shown != shortcut)
+                mismatches << QStringLiteral("Alt+%1: %2 underlines %3")
+                                  .arg(shortcut, button->text(), shown);
+            else
+                texts[shortcut] << button->text();
         } else if (auto *label = qobject_cast<QLabel *>(widget); label && label->buddy())
             add(label->text());
         else if (auto *box = qobject_cast<QGroupBox *>(widget))
@@ -52,5 +58,5 @@ QStringList AcceleratorCheck::clashes(QWidget *window)
             lines
                 << QStringLiteral("Alt+%1: %2").arg(it.key(), it.value().join(QLatin1String(", ")));
     }
-    return lines;
+    return lines + mismatches;
 }

@@ -15,7 +15,8 @@ class AcceleratorCheck
 public:
     // "&&" is a literal ampersand; returns a null QChar when there is none.
     static QChar letter(const QString &text);
-    // One line per letter used twice: "Alt+S: &Standard, &Save".
+    // One line per letter used twice: "Alt+S: &Standard, &Save", and one per
+    // button whose shortcut is not the letter its text underlines.
     static QStringList clashes(QWidget *window);
 };
 
