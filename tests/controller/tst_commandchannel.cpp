@@ -73,17 +73,11 @@ void TestCommandChannel::grammar()
 {
     QCOMPARE(CommandText::bodyIdOfIndex(6), QString("b07"));
     QCOMPARE(CommandText::bodyId(100), QString("b100"));
-    QCOMPARE(CommandText::targetId(3) + CommandText::groupId(12) + CommandText::memberId(1),
-        QString("t03g12m01"));
-    QCOMPARE(CommandText::yesNo(true) + CommandText::yesNo(false), QString("yesno"));
-    for (const char *notYes : { "Yes", "yes ", "", "no" })
+    for (const char *notYes : { "Yes", "yes ", "", "no" }) // replies compare exactly
         QVERIFY2(!CommandText::isYes(notYes), notYes);
-    QVERIFY(
-        CommandText::isYes("yes") && CommandText::isNone("none") && !CommandText::isNone("None"));
     QCOMPARE(CommandText::quoted(""), QString("\"\""));
     QCOMPARE(CommandText::quoted("my \"best\" tool"), QString("\"my \"best\" tool\""));
     QCOMPARE(CommandText::quoted(QString(150, 'x')), '"' + QString(100, 'x') + '"');
-    QCOMPARE(CommandText::withoutDoubleQuotes("\"my \"best\" tool\""), QString("my best tool"));
     QCOMPARE(CommandText::truncated(-12.9), -12);
     QCOMPARE(CommandText::truncated(1e308), std::numeric_limits<int>::max());
     QCOMPARE(CommandText::truncated(std::numeric_limits<double>::quiet_NaN()), 0);

@@ -39,9 +39,6 @@ void TestSimulatedController::scenarios()
 {
     sim::SimulatedController controller;
     QStringList errors;
-    for (const char *name : { "locked", "old", "orbilux", "default" })
-        QVERIFY2(controller.loadScenario(QString(":/scenarios/%1.scn").arg(name), &errors),
-            qPrintable(errors.join('\n')));
     QVERIFY(!controller.loadScenarioText(
         "@backend-version 1.9.-1\ngood = 1\nno separator\n@fail bad*\n", "x.scn", &errors));
     QCOMPARE(errors, QStringList { "x.scn:3: expected \"PATH = VALUE\"" });
