@@ -93,7 +93,7 @@ void TestFilterDialog::queries()
     QCOMPARE(controller.commands().join(", "),
         "filter6d available standard, config is_changeable, body inertial_sensor standard b02, "
         "body desc standard b02, body filter6d_enabled standard b02, "
-        "body inertial_sensor standard b02, body filter6d_preset standard b02, "
+        "body filter6d_preset standard b02, "
         "body filter6d_strength standard b02, body filter6d_prediction standard b02, "
         "body filter6d_mode standard b02");
 }
