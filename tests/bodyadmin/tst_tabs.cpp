@@ -1,0 +1,821 @@
+#include "bodyadminfixture.h"
+#include "bodytabfactory.h"
+#include "fingertrackingadministration.h"
+#include "mtadministration.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QProgressBar>
+
+// What the four tabs do on their own: the target search and assignment,
+// their devices, heads, hands and references, their limits.
+class TestTabs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { f.init(); }
+    void cleanup() { FIXTURE_CLEANUP(f); }
+
+    void searchStart_data();
+    void searchStart();
+    void searchRunsToTheEnd_data();
+    void searchRunsToTheEnd();
+    void searchAbortedAndStopped();
+    void controlsDuringSearch_data();
+    void controlsDuringSearch();
+    void categories();
+    void assignment_data();
+    void assignment();
+    void limits_data();
+    void limits();
+    void globalFilter_data();
+    void globalFilter();
+    void gripwandDevices_data();
+    void gripwandDevices();
+    void headsFollowTheGripwands_data();
+    void headsFollowTheGripwands();
+    void handsByVersion_data();
+    void handsByVersion();
+    void measurementToolsByVersion_data();
+    void measurementToolsByVersion();
+    void deletingAReference_data();
+    void deletingAReference();
+    void deactivatingAReference_data();
+    void deactivatingAReference();
+
+private:
+    // Shows the target's category (where the tab has a combo) and makes
+    // the target current.
+    void chooseTarget(const QString &id)
+    {
+        if (auto *combo = f.widget<QComboBox>("comboBox_filter")) {
+            if (f.tab->findChild<QComboBox *>("comboBox_filter"))
+                combo = f.tab->findChild<QComboBox *>("comboBox_filter");
+            const QString group = f.controller->value("targetlib group_name g0"
+                + QString::number(id == "t03" ? 2
+                        : id < "t03"          ? 1
+                                              : 3));
+            combo->setCurrentIndex(combo->findText(QString(group).remove('"')));
+        }
+        QTableWidget *targets = f.tab->findChild<QTableWidget *>("tableWidget_targetlibrary");
+        for (int row = 0; row < targets->rowCount(); ++row) {
+            if (targets->item(row, 0)->text() == id)
+                BodyAdminFixture::click(targets, row, 0);
+        }
+    }
+    QPushButton *tabButton(const char *name) const { return f.tab->findChild<QPushButton *>(name); }
+    bool enabled(const QString &name) const
+    {
+        return f.tab->findChild<QWidget *>(name)->isEnabled();
+    }
+
+    BodyAdminFixture f;
+};
+
+void TestTabs::searchStart_data()
+{
+    QTest::addColumn<QStringList>("setUp");
+    QTest::addColumn<QString>("report");
+    QTest::addColumn<bool>("sent");
+
+    const QString refused = "Error: Unable to start target library calibration";
+    QTest::newRow("calibration type missing")
+        << QStringList { "cal available targetlib = no" }
+        << refused + ". Calibration type is not available" << false;
+    QTest::newRow("availability unknown")
+        << QStringList { "!cal available targetlib" } << refused << false;
+    QTest::newRow("already active") << QStringList { "status active = cal targetlib" }
+                                    << refused + ". Calibration is already active." << false;
+    QTest::newRow("status unknown") << QStringList { "!status active" } << refused << false;
+    QTest::newRow("err lets it start")
+        << QStringList { "status active = err" } << "target library calibration started" << true;
+    QTest::newRow("the controller refuses")
+        << QStringList { "!velora2 cal targetlib start" } << refused << true;
+}
+
+void TestTabs::searchStart()
+{
+    QFETCH(QStringList, setUp);
+    QFETCH(QString, report);
+    QFETCH(bool, sent);
+
+    f.setUp(setUp);
+    f.open();
+    f.clickButton("pushButton_start");
+    QCOMPARE(f.controller->reports(), QStringList { report });
+    QCOMPARE(f.changes(), sent ? QStringList { "velora2 cal targetlib start" } : QStringList());
+    const bool searching = report.startsWith("target");
+    QCOMPARE(f.tab->isSearching(), searching);
+    QCOMPARE(enabled("pushButton_start"), !searching);
+    // A refused start keeps Stop and the locked controls until the next refresh.
+    QCOMPARE(enabled("pushButton_stop"), sent);
+}
+
+void TestTabs::searchRunsToTheEnd_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QStringList>("setUp");
+    QTest::addColumn<QString>("announced");
+
+    // The standard and measurement-tool tabs count the tracked standard
+    // targets when the search ends; the others announce the count of their
+    // last refresh, which no refresh made here.
+    QTest::newRow("standard") << 0 << QStringList() << "2 targets could be identified in library";
+    QTest::newRow("standard, one") << 0 << QStringList { "targetlib target_bodytype t04 = 'x'" }
+                                   << "One target could be identified in library";
+    QTest::newRow("measurement tools")
+        << 3 << QStringList() << "2 targets could be identified in library";
+    QTest::newRow("Gripwand") << 1 << QStringList() << "No targets could be identified in library";
+    QTest::newRow("hands") << 2 << QStringList() << "No targets could be identified in library";
+}
+
+void TestTabs::searchRunsToTheEnd()
+{
+    QFETCH(int, key);
+    QFETCH(QStringList, setUp);
+    QFETCH(QString, announced);
+
+    f.setUp(setUp);
+    f.open(key);
+    f.answer();
+    tabButton("pushButton_start")->click();
+    f.controller->advanceClock(1824);
+    QMetaObject::invokeMethod(f.tab, "doMeasurement_tl");
+    QCOMPARE(f.tab->findChild<QProgressBar *>()->value(), 45);
+    if (key == 0) {
+        QCOMPARE(f.widget<QLabel>("label_targetlibrary")->text(),
+            QString(setUp.isEmpty() ? "found targets: 2, already calibrated: 1"
+                                    : "found targets: 1, already calibrated: 1"));
+        // GL-5, in use, is found again when the next search starts.
+        f.controller->clearLog();
+        tabButton("pushButton_stop")->click();
+    }
+    if (key == 0) {
+        QCOMPARE(f.controller->reports(), QStringList { "target library calibration cancelled" });
+        f.controller->advanceClock(5000);
+        tabButton("pushButton_start")->click();
+        QVERIFY(f.controller->reports().contains("GL-5 already calibrated"));
+    }
+    QVERIFY(!f.controller->commands().contains("velora2 targetlib check_custom_calibration"));
+    f.controller->advanceClock(5000);
+    QMetaObject::invokeMethod(f.tab, "doMeasurement_tl");
+    QCOMPARE(f.driver->seen().last().title, QString("VELORA4"));
+    QCOMPARE(f.seen().last(), announced);
+    QVERIFY(f.controller->reports().contains("target library calibration stopped"));
+    QCOMPARE(f.tab->findChild<QProgressBar *>()->value(), 100);
+    QVERIFY(enabled("pushButton_start"));
+    QVERIFY(!enabled("pushButton_stop"));
+}
+
+void TestTabs::searchAbortedAndStopped()
+{
+    f.open();
+    f.answer();
+    f.clickButton("pushButton_start");
+    f.controller->failCommand("status step_active", 1, 1);
+    QMetaObject::invokeMethod(f.tab, "doMeasurement_tl");
+    QCOMPARE(f.controller->reports().last(),
+        QString("Error during target library calibration. Calibration aborted"));
+    QVERIFY(!f.tab->isSearching());
+    QVERIFY(enabled("pushButton_start"));
+    QVERIFY(!enabled("pushButton_stop"));
+    QCOMPARE(f.changes(), QStringList { "velora2 cal targetlib start" }); // no stop
+
+    f.controller->advanceClock(10000); // the controller's search ends by itself
+    f.controller->clearLog();
+    f.clickButton("pushButton_start");
+    f.clickButton("pushButton_stop");
+    QCOMPARE(f.seen(), QStringList { "No targets could be identified in library" });
+    QCOMPARE(
+        f.changes(), QStringList({ "velora2 cal targetlib start", "velora2 cal targetlib stop" }));
+    QCOMPARE(f.controller->reports(),
+        QStringList(
+            { "target library calibration started", "target library calibration cancelled" }));
+    QCOMPARE(f.widget<QProgressBar>("progressBar")->value(), 0);
+}
+
+void TestTabs::controlsDuringSearch_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QStringList>("locked");
+    QTest::addColumn<QStringList>("free");
+
+    QTest::newRow("standard") << int(BodyTabFactory::Standard)
+                              << QStringList { "spinBox_standard_bodies", "pushButton_filter",
+                                     "pushButton_customCalibration", "comboBox_filter" }
+                              << QStringList { "tableWidget_standard" };
+    QTest::newRow("Gripwand") << int(BodyTabFactory::Gripwand) << QStringList()
+                              << QStringList { "spinBox_gripwands", "pushButton_filter",
+                                     "pushButton_calibration" };
+    QTest::newRow("hands") << int(BodyTabFactory::Fingertracking) << QStringList()
+                           << QStringList { "spinBox_fingertracking", "pushButton_calibration" };
+    QTest::newRow("measurement tools")
+        << int(BodyTabFactory::MeasurementTool)
+        << QStringList { "spinBox_mtref", "comboBox_filter" } << QStringList { "spinBox_mt" };
+}
+
+void TestTabs::controlsDuringSearch()
+{
+    QFETCH(int, key);
+    QFETCH(QStringList, locked);
+    QFETCH(QStringList, free);
+
+    f.open(key);
+    tabButton("pushButton_start")->click();
+    QVERIFY(f.tab->isSearching());
+    for (const QString &name : locked)
+        QVERIFY2(!enabled(name), qPrintable(name));
+    for (const QString &name : free + QStringList { "pushButton_stop" })
+        QVERIFY2(enabled(name), qPrintable(name));
+    QVERIFY(!enabled("pushButton_select"));
+    QVERIFY(!enabled("pushButton_deselect"));
+
+    // Stopped by the user, the tab is usable again while the result shows.
+    bool usableDuringResult = false;
+    f.driver->answer([&](QWidget *modal) {
+        usableDuringResult = enabled("pushButton_start") && !enabled("pushButton_stop");
+        for (const QString &name : locked)
+            usableDuringResult = usableDuringResult && enabled(name);
+        static_cast<QDialog *>(modal)->accept();
+    });
+    tabButton("pushButton_stop")->click();
+    QVERIFY(usableDuringResult);
+}
+
+void TestTabs::categories()
+{
+    // TR-5 leaves its group: it has no category, and no empty one appears.
+    f.controller->setValue("targetlib number_of_group_members g03", "1");
+    QCOMPARE(f.build()->tab(0)->findChild<QLabel *>("label_targetlibrary")->text(),
+        QString("found targets: 0; already calibrated: 0"));
+    f.open();
+    auto *combo = f.widget<QComboBox>("comboBox_filter");
+    QStringList entries;
+    for (int i = 0; i < combo->count(); ++i)
+        entries << combo->itemText(i);
+    QCOMPARE(entries,
+        QStringList({ "- Found Targets -", "Glasses Target", "HMD Target", "Tool Target" }));
+    combo->setCurrentIndex(3);
+    QTableWidget *targets = f.table("tableWidget_targetlibrary");
+    QCOMPARE(targets->rowCount(), 1);
+    QStringList row;
+    for (int column = 0; column < 4; ++column)
+        row << targets->horizontalHeaderItem(column)->text() + "="
+                + targets->item(0, column)->text();
+    QCOMPARE(row,
+        QStringList({ "ID=t04", "Name=Tree target, 4 markers", "Short Name=TR-4", "Used=custom" }));
+    combo->setCurrentIndex(1);
+    QCOMPARE(targets->item(0, 3)->text(), QString("no"));
+}
+
+void TestTabs::assignment_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QStringList>("setUp");
+    QTest::addColumn<int>("bodyRow");
+    QTest::addColumn<QString>("target"); // empty: Deselect
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QStringList>("boxes");
+    QTest::addColumn<QStringList>("sent");
+    QTest::addColumn<QStringList>("reports");
+
+    const QStringList none;
+    const QString bends = "%1 can bend\ntherefore a re-calibration is strongly recommended!\n\n(To "
+                          "avoid any changes of the geometry\nmount the target to the device prior "
+                          "re-calibration)";
+    const QStringList freeBody1 { "body number_of_marker standard b01 0",
+        "body desc standard b01 \"\"" };
+    const QString mr1 = "This target is already calibrated as Measurement Tool Reference "
+                        "MR1.|Delete the Measurement Tool Reference MR1?";
+    const QString std1
+        = "This target is already calibrated as standard target ID 1.|Delete the standard target "
+          "ID 1?";
+    const int ok = QMessageBox::Ok;
+    const int cancel = QMessageBox::Cancel;
+
+    QTest::newRow("GL-5 moves from body 1, which bends")
+        << 0 << none << 3 << "t01" << ok << QStringList { bends.arg("Glasses 5 markers") }
+        << freeBody1 + QStringList { "velora2 body calibrate_from_targetlib standard b04 GL-5" }
+        << none;
+    QTest::newRow("a named body is asked about, Cancel")
+        << 0 << none << 1 << "t04" << cancel
+        << QStringList { "Overwrite body calibration data of Room reference?" } << none << none;
+    QTest::newRow("a named body is asked about, Ok")
+        << 0 << none << 1 << "t04" << ok
+        << QStringList { "Overwrite body calibration data of Room reference?" }
+        << QStringList { "velora2 body calibrate_from_targetlib standard b02 TR-4" } << none;
+    QTest::newRow("measurement-tool reference, Cancel")
+        << 0 << none << 3 << "t05" << cancel << QStringList { mr1 } << none << none;
+    QTest::newRow("measurement-tool reference, Ok")
+        << 0 << none << 3 << "t05" << ok << QStringList { mr1 }
+        << QStringList { "body number_of_marker measurementtool_reference b01 0",
+               "body desc measurementtool_reference b01 \"\"",
+               "velora2 body calibrate_from_targetlib standard b04 TR-5" }
+        << none;
+    QTest::newRow("HMD bends")
+        << 0 << none << 3 << "t03" << ok << QStringList { bends.arg("Head-mounted display frame") }
+        << QStringList { "velora2 body calibrate_from_targetlib standard b04 HMD-7" } << none;
+    QTest::newRow("another letter case does not warn")
+        << 0 << QStringList { "targetlib group_name g02 = \"hmd Target\"" } << 3 << "t03" << ok
+        << none << QStringList { "velora2 body calibrate_from_targetlib standard b04 HMD-7" }
+        << none;
+    QTest::newRow("the calibration fails")
+        << 0 << QStringList { "!velora2 body calibrate_from_targetlib*" } << 3 << "t04" << ok
+        << none << QStringList { "velora2 body calibrate_from_targetlib standard b04 TR-4" }
+        << QStringList { "Error: Unable to calibrate body from target library" };
+    QTest::newRow("freeing the other body fails")
+        << 0 << QStringList { "!body number_of_marker standard b01 0", "!body desc standard b01 *" }
+        << 3 << "t01" << ok << QStringList { bends.arg("Glasses 5 markers") }
+        << freeBody1 + QStringList { "velora2 body calibrate_from_targetlib standard b04 GL-5" }
+        << QStringList { "Unable to reset markers of target standard 1",
+               "Unable to reset description of target standard standard" };
+    QTest::newRow("the other bodies' targets unknown")
+        << 0 << QStringList { "!body targetlib_name standard b0*" } << 3 << "t04" << ok << none
+        << QStringList { "velora2 body calibrate_from_targetlib standard b04 TR-4" }
+        << QStringList { "Unable to get info targetlib ID of body" };
+    QTest::newRow("deselect deletes the body")
+        << 0 << none << 0 << "" << int(QMessageBox::Yes)
+        << QStringList { "Delete geometry of Standard body 1?" }
+        << QStringList { "body filter6d_preset standard b01 preset6d_default" } + freeBody1 << none;
+    QTest::newRow("standard body on a reference, Cancel")
+        << 3 << none << 1 << "t01" << cancel << QStringList { std1 } << none << none;
+    QTest::newRow("standard body on a reference, Ok")
+        << 3 << none << 1 << "t01" << ok << QStringList { std1 }
+        << QStringList { "body filter6d_preset standard b01 preset6d_default" } + freeBody1
+            + QStringList { "velora2 body calibrate_from_targetlib measurementtool_reference b02 "
+                            "GL-5" }
+        << none;
+    QTest::newRow("Gripwand") << 1 << none << 1 << "t06" << ok << none
+                              << QStringList { "body number_of_marker gripwand b01 0",
+                                     "body desc gripwand b01 \"\"",
+                                     "velora2 body calibrate_from_targetlib gripwand b02 GW-3" }
+                              << none;
+}
+
+void TestTabs::assignment()
+{
+    QFETCH(int, key);
+    QFETCH(QStringList, setUp);
+    QFETCH(int, bodyRow);
+    QFETCH(QString, target);
+    QFETCH(int, answer);
+    QFETCH(QStringList, boxes);
+    QFETCH(QStringList, sent);
+    QFETCH(QStringList, reports);
+
+    f.setUp(setUp);
+    f.open(key);
+    const QStringList tables { "tableWidget_standard", "tableWidget_gripwand",
+        "tableWidget_fingertracking", "tableWidget_mtref" };
+    BodyAdminFixture::click(f.table(tables.at(key)), bodyRow, 0);
+    if (!target.isEmpty())
+        chooseTarget(target);
+    f.controller->clearLog();
+    f.answer({ answer });
+    tabButton(target.isEmpty() ? "pushButton_deselect" : "pushButton_select")->click();
+
+    QCOMPARE(f.seen(), boxes);
+    QCOMPARE(f.changes(), sent);
+    QCOMPARE(f.controller->reports().mid(0, reports.size()), reports);
+}
+
+void TestTabs::limits_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("spinBox");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QStringList>("setUp");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<QString>("report"); // of the maximum
+    QTest::addColumn<QString>("line"); // at the maximum
+    QTest::addColumn<QString>("command"); // of the next count, "" for none
+    QTest::addColumn<QString>("refused");
+
+    const QString red = "<b><font color=red>Max. number of %1 is reached!</font></b>";
+    const QString unknown = "Error: Unable to get max number of %1 bodies";
+    QTest::newRow("standard, maximum unknown")
+        << 0 << "spinBox_standard_bodies"
+        << "label_error" << QStringList { "!standard max_number_of_bodies" } << 4
+        << unknown.arg("standard") << red.arg("bodies") << ""
+        << "";
+    QTest::newRow("Gripwands, maximum unknown")
+        << 1 << "spinBox_gripwands"
+        << "label_error" << QStringList { "!gripwand max_number_of_devices" } << 20
+        << unknown.arg("gripwand") << ""
+        << "gripwand number_of_devices %1"
+        << "Error: Unable to set number of gripwand bodies to %1";
+    QTest::newRow("Gripwands at the maximum")
+        << 1 << "spinBox_gripwands"
+        << "label_error" << QStringList { "gripwand max_number_of_devices = 2" } << 2 << ""
+        << red.arg("gripwands") << ""
+        << "";
+    QTest::newRow("hands, maximum unknown")
+        << 2 << "spinBox_fingertracking"
+        << "label_error_fingertracking" << QStringList { "!fingertracking max_number_of_hands" }
+        << 4 << "Error: Unable to get max number of fingertracking hand bodies"
+        << ""
+        << "fingertracking number_of_hands %1"
+        << "Error: Unable to set number of fingertracking hand bodies to %1";
+    QTest::newRow("hands at the maximum")
+        << 2 << "spinBox_fingertracking"
+        << "label_error_fingertracking" << QStringList { "fingertracking max_number_of_hands = 2" }
+        << 2 << "" << red.arg("Hands") << ""
+        << "";
+    QTest::newRow("tools, maximum unknown")
+        << 3 << "spinBox_mt"
+        << "label_error_mt" << QStringList { "!measurementtool max_number_of_tools" } << 4
+        << unknown.arg("measurementtool") << ""
+        << "measurementtool number_of_tools %1"
+        << "Error: Unable to set number of measurementtool bodies to %1";
+    QTest::newRow("tools at the maximum")
+        << 3 << "spinBox_mt"
+        << "label_error_mt" << QStringList { "measurementtool max_number_of_tools = 2" } << 2 << ""
+        << red.arg("Measurement Tools") << ""
+        << "";
+    QTest::newRow("references, maximum unknown")
+        << 3 << "spinBox_mtref"
+        << "label_error_mtref" << QStringList { "!measurementtool max_number_of_references" } << 4
+        << unknown.arg("measurementtool_reference") << ""
+        << "measurementtool number_of_references %1"
+        << "Error: Unable to set number of measurementtool_reference bodies to %1";
+    QTest::newRow("references at the maximum")
+        << 3 << "spinBox_mtref"
+        << "label_error_mtref" << QStringList { "measurementtool max_number_of_references = 2" }
+        << 2 << "" << red.arg("Measurement references") << ""
+        << "";
+}
+
+void TestTabs::limits()
+{
+    QFETCH(int, key);
+    QFETCH(QString, spinBox);
+    QFETCH(QString, label);
+    QFETCH(QStringList, setUp);
+    QFETCH(int, maximum);
+    QFETCH(QString, report);
+    QFETCH(QString, line);
+    QFETCH(QString, command);
+    QFETCH(QString, refused);
+
+    f.setUp(setUp);
+    f.open(key);
+    f.tab->update_tab();
+    auto *spin = f.tab->findChild<QSpinBox *>(spinBox);
+    QCOMPARE(spin->maximum(), maximum);
+    if (!report.isEmpty())
+        QVERIFY(f.controller->reports().contains(report));
+    QCOMPARE(f.tab->findChild<QLabel *>(label)->text(), line);
+    if (command.isEmpty())
+        return;
+    const int count = spin->value();
+    spin->setFocus();
+    QTest::keyClick(spin, Qt::Key_Up);
+    QCOMPARE(f.changes().first(), command.arg(count + 1));
+    f.controller->failCommand(command.arg(count + 2));
+    f.controller->clearLog();
+    QTest::keyClick(spin, Qt::Key_Up);
+    QCOMPARE(f.controller->reports().first(), refused.arg(count + 2));
+    QCOMPARE(spin->value(), count + 1);
+}
+
+void TestTabs::globalFilter_data()
+{
+    QTest::addColumn<QStringList>("setUp");
+    QTest::addColumn<QStringList>("sent");
+    QTest::addColumn<QString>("report");
+
+    const QStringList off { "standard filter_bodies = no", "gripwand filter = no" };
+    QTest::newRow("switched back on")
+        << off << QStringList { "standard filter_bodies yes", "gripwand filter yes" } << "";
+    QTest::newRow("already on") << QStringList() << QStringList() << "";
+    QTest::newRow("locked") << off + QStringList { "config is_changeable = no" } << QStringList()
+                            << "";
+    QTest::newRow("before 1.12") << off + QStringList { "@version 1.11" } << QStringList() << "";
+    QTest::newRow("standard unknown")
+        << QStringList { "!standard filter_bodies" } << QStringList()
+        << "Error: Unable to get global filter6d status of standard bodies";
+    QTest::newRow("standard refused")
+        << off + QStringList { "!standard filter_bodies yes" }
+        << QStringList { "standard filter_bodies yes", "gripwand filter yes" }
+        << "Error: Unable to set global filter6d status of standard bodies";
+    QTest::newRow("Gripwand unknown") << QStringList { "!gripwand filter" } << QStringList()
+                                      << "Error: Unable to get global filter6d status of Gripwand "
+                                         "bodies";
+    QTest::newRow("Gripwand refused")
+        << off + QStringList { "!gripwand filter yes" }
+        << QStringList { "standard filter_bodies yes", "gripwand filter yes" }
+        << "Error: Unable to set global filter6d status of Gripwand bodies";
+}
+
+// Another module switched the active configuration.
+void TestTabs::globalFilter()
+{
+    QFETCH(QStringList, setUp);
+    QFETCH(QStringList, sent);
+    QFETCH(QString, report);
+
+    f.setUp(setUp);
+    f.open();
+    if (setUp.contains("@version 1.11"))
+        f.controller->backendVersions().backendVersion = { 1, 11, 0 };
+    f.controller->sendMessage(
+        "GlobalEvent", "ConfigurationModule", 1, "ActiveConfigurationChanged");
+    QCOMPARE(f.changes(), sent);
+    QCOMPARE(f.controller->reports(), report.isEmpty() ? QStringList() : QStringList { report });
+}
+
+void TestTabs::gripwandDevices_data()
+{
+    QTest::addColumn<int>("minor");
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("serial");
+    QTest::addColumn<QString>("report");
+
+    QTest::newRow("short serial padded") << 24 << "wpan 0x0021 0x0003 7"
+                                         << "Gripwand 3"
+                                         << "00007"
+                                         << "";
+    QTest::newRow("long serial cut") << 24 << "wpan 0x0021 0x0004 1234567"
+                                     << "Gripwand 3 Pro"
+                                     << "12345"
+                                     << "";
+    QTest::newRow("no device") << 24 << "none"
+                               << "none"
+                               << ""
+                               << "";
+    QTest::newRow("before 1.3 the model is unknown") << 2 << "wpan 0x0021 0x0003 4711"
+                                                     << "unknown"
+                                                     << "04711"
+                                                     << "";
+    QTest::newRow("unknown model: the vendor named twice")
+        << 24 << "wpan 0x0042 0x0009 4711"
+        << "unknown"
+        << "04711"
+        << "Error: Unable to get model description of vendor 0x0042 model 0x0042";
+}
+
+void TestTabs::gripwandDevices()
+{
+    QFETCH(int, minor);
+    QFETCH(QString, device);
+    QFETCH(QString, model);
+    QFETCH(QString, serial);
+    QFETCH(QString, report);
+
+    f.controller->backendVersions().backendVersion = { 1, minor, 0 };
+    f.setUp({ "gripwand device b01 = " + device });
+    f.open(1);
+    f.tab->update_tab();
+    QTableWidget *gripwands = f.table("tableWidget_gripwand");
+    QCOMPARE(QStringList({ gripwands->item(0, 0)->text(), gripwands->item(0, 3)->text(),
+                 gripwands->item(0, 4)->text() }),
+        QStringList({ "G1", model, serial }));
+    QCOMPARE(
+        f.controller->commands().contains("zemwpan device_model_desc " + device.section(' ', 1, 2)),
+        minor >= 3 && device != "none");
+    QCOMPARE(f.controller->reports().contains(report), !report.isEmpty());
+}
+
+void TestTabs::headsFollowTheGripwands_data()
+{
+    QTest::addColumn<QStringList>("setUp");
+    QTest::addColumn<int>("minor");
+    QTest::addColumn<QStringList>("asked"); // the multi-user queries
+    QTest::addColumn<QString>("report");
+    QTest::addColumn<bool>("shown");
+
+    const QStringList all { "gripwand multiuser_available",
+        "gripwand multiuser_with_head_available", "gripwand multiuser",
+        "gripwand multiuser_with_head" };
+    QTest::newRow("multi-user with head") << QStringList() << 24 << all << "" << true;
+    QTest::newRow("0.12 skips the head question")
+        << QStringList() << 12 << QStringList { all.at(0), all.at(2), all.at(3) } << "" << true;
+    QTest::newRow("head switched off")
+        << QStringList { "gripwand multiuser_with_head = no" } << 24 << all << "" << false;
+    QTest::newRow("multi-user off") << QStringList { "gripwand multiuser = no" } << 24
+                                    << QStringList(all.mid(0, 3)) << "" << false;
+    QTest::newRow("multi-user unknown")
+        << QStringList { "!gripwand multiuser_available" } << 24 << QStringList(all.mid(0, 1))
+        << "Error: Unable to get info whether multiuser gripwand is available" << false;
+    QTest::newRow("head availability unknown")
+        << QStringList { "!gripwand multiuser_with_head_available" } << 24
+        << QStringList(all.mid(0, 2))
+        << "Error: Unable to get info multiuser gripwand with head available" << false;
+    QTest::newRow("multi-user state unknown")
+        << QStringList { "!gripwand multiuser" } << 24 << QStringList(all.mid(0, 3))
+        << "Error: Unable to get info whether multiuser gripwand is activated" << false;
+    QTest::newRow("head state unknown")
+        << QStringList { "!gripwand multiuser_with_head" } << 24 << all
+        << "Error: Unable to get info whether multiuser gripwand with head is activated" << false;
+}
+
+void TestTabs::headsFollowTheGripwands()
+{
+    QFETCH(QStringList, setUp);
+    QFETCH(int, minor);
+    QFETCH(QStringList, asked);
+    QFETCH(QString, report);
+    QFETCH(bool, shown);
+
+    f.setUp(setUp);
+    f.open(1);
+    f.controller->backendVersions().backendVersion = { 0, minor, 0 };
+    f.tab->update_tab();
+    QStringList multiUser;
+    for (const QString &command : f.controller->commands()) {
+        if (command.startsWith("gripwand multiuser"))
+            multiUser << command;
+    }
+    QCOMPARE(multiUser, asked);
+    QCOMPARE(f.controller->reports().contains(report), !report.isEmpty());
+    QTableWidget *heads = f.table("tableWidget_head");
+    QCOMPARE(heads->isVisible(), shown);
+    QCOMPARE(f.widget("label_head")->isVisible(), shown);
+
+    f.controller->backendVersions().backendVersion = { 1, 24, 0 };
+    f.controller->clearLog();
+    auto *spin = f.widget<QSpinBox>("spinBox_gripwands");
+    spin->setFocus();
+    QTest::keyClick(spin, Qt::Key_Up);
+    QCOMPARE(f.changes(), QStringList { "gripwand number_of_devices 3" });
+    QCOMPARE(f.table("tableWidget_gripwand")->rowCount(), 3);
+    if (shown) {
+        // The heads follow once the Gripwands have changed.
+        QCOMPARE(heads->rowCount(), 3);
+        QVERIFY(heads->isColumnHidden(3));
+    }
+}
+
+void TestTabs::handsByVersion_data()
+{
+    QTest::addColumn<int>("major");
+    QTest::addColumn<int>("minor");
+    QTest::addColumn<QString>("reply");
+    QTest::addColumn<bool>("asked");
+    QTest::addColumn<bool>("available");
+
+    QTest::newRow("0.16: never asked") << 0 << 16 << "yes" << false << false;
+    QTest::newRow("0.17: asked, yes") << 0 << 17 << "yes" << true << true;
+    QTest::newRow("1.21: asked, Yes is not yes") << 1 << 21 << "Yes" << true << false;
+    QTest::newRow("1.22: available without asking") << 1 << 22 << "no" << false << true;
+}
+
+void TestTabs::handsByVersion()
+{
+    QFETCH(int, major);
+    QFETCH(int, minor);
+    QFETCH(QString, reply);
+    QFETCH(bool, asked);
+    QFETCH(bool, available);
+
+    // Built on its own: the dialog offers the tab from 0.17 only.
+    f.controller->backendVersions().backendVersion = { major, minor, 0 };
+    f.controller->setValue("fingertracking available", reply);
+    auto *tab = new FingertrackingAdministration(
+        f.controller, nullptr, &f.controller->backendVersions(), QString(), nullptr);
+    QCOMPARE(f.controller->commands().contains("fingertracking available"), asked);
+    tab->show();
+    tab->update_tab();
+    QCOMPARE(tab->isTypeAvailable(), available);
+    auto *notice = tab->findChild<QLabel *>("label_error");
+    QCOMPARE(notice->isVisible(), !available);
+    QCOMPARE(
+        notice->text(), QString("<b><font color=red>Fingertracking is not available!</font></b>"));
+    QCOMPARE(tab->findChild<QSpinBox *>()->isEnabled(), available);
+    auto *hands = tab->findChild<QTableWidget *>("tableWidget_fingertracking");
+    QCOMPARE(
+        hands->rowCount() ? hands->item(0, 0)->text() : QString(), QString(available ? "H1" : ""));
+    // Asked again only while not available; once available, it stays so.
+    f.controller->setValue("fingertracking available", "no");
+    f.controller->clearLog();
+    tab->update_tab();
+    QCOMPARE(f.controller->commands().contains("fingertracking available"), asked && !available);
+    QCOMPARE(tab->isTypeAvailable(), available);
+    delete tab;
+}
+
+void TestTabs::measurementToolsByVersion_data()
+{
+    QTest::addColumn<int>("minor");
+    QTest::addColumn<QString>("reply");
+    QTest::addColumn<bool>("available");
+
+    QTest::newRow("1.2 never asks") << 2 << "yes" << false;
+    QTest::newRow("1.3 asks, yes") << 3 << "yes" << true;
+    QTest::newRow("1.3 asks, no") << 3 << "no" << false;
+}
+
+void TestTabs::measurementToolsByVersion()
+{
+    QFETCH(int, minor);
+    QFETCH(QString, reply);
+    QFETCH(bool, available);
+
+    // Built on its own: the dialog offers the tab from 1.3 only.
+    f.controller->backendVersions().backendVersion = { 1, minor, 0 };
+    f.controller->setValue("measurementtool available", reply);
+    MtAdministration *tab = new MtAdministration(
+        f.controller, nullptr, &f.controller->backendVersions(), QString(), nullptr);
+    QCOMPARE(tab->isTypeAvailable(), available);
+    QCOMPARE(f.controller->commands().contains("measurementtool available"), minor >= 3);
+    tab->show();
+    tab->update_tab();
+    auto *notice = tab->findChild<QLabel *>("label_error");
+    QCOMPARE(notice->isVisible(), !available);
+    if (!available)
+        QCOMPARE(notice->text(),
+            QString("<b><font color=red>Measurement Tool is not available!</font></b>"));
+    auto *tools = tab->findChild<QTableWidget *>("tableWidget_mt");
+    QCOMPARE(tools->rowCount() ? tools->item(0, 0)->text() + tools->item(0, 2)->text() : QString(),
+        QString(available ? "M1MR1" : ""));
+    delete tab;
+}
+
+void TestTabs::deletingAReference_data()
+{
+    QTest::addColumn<QStringList>("setUp");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QStringList>("boxes");
+    QTest::addColumn<QStringList>("sent");
+    QTest::addColumn<QStringList>("reports");
+
+    const QString question = "Delete Measurement Tool reference body 01?";
+    const QString linked
+        = question + "\nIf yes, the assignment to the Measurement Tool will be deleted.|Continue?";
+    const QStringList clear { "body number_of_marker measurementtool_reference b01 0",
+        "body desc measurementtool_reference b01 \"\"" };
+    const QStringList unlink { "measurementtool reference_of_tool b01 none",
+        "measurementtool reference_of_tool b04 none" };
+    const QStringList m4 { "measurementtool number_of_tools = 4",
+        "body number_of_bodies measurementtool = 4", "measurementtool reference_of_tool b04 = 1" };
+    QTest::newRow("used by M1 and M4")
+        << m4 << int(QMessageBox::Yes) << QStringList { linked } << clear + unlink << QStringList();
+    QTest::newRow("No leaves the controller alone")
+        << m4 << int(QMessageBox::No) << QStringList { linked } << QStringList() << QStringList();
+    QTest::newRow("unused") << QStringList { "measurementtool reference_of_tool b01 = none" }
+                            << int(QMessageBox::Yes) << QStringList { question + "|Continue?" }
+                            << clear << QStringList();
+    QTest::newRow("fails, the tools are unlinked anyway")
+        << m4
+            + QStringList { "!body desc measurementtool_reference b01 *",
+                  "!measurementtool reference_of_tool b04 none" }
+        << int(QMessageBox::Yes) << QStringList { linked, "Delete body 1 failed" } << clear + unlink
+        << QStringList { "Unable to reset description of Measurement Tool reference 1",
+               "Error: Unable to set ref. body" };
+}
+
+// The Delete key on a reference row asks the tab's own question.
+void TestTabs::deletingAReference()
+{
+    QFETCH(QStringList, setUp);
+    QFETCH(int, answer);
+    QFETCH(QStringList, boxes);
+    QFETCH(QStringList, sent);
+    QFETCH(QStringList, reports);
+
+    f.setUp(setUp);
+    f.open(3);
+    f.answer({ answer });
+    QTableWidget *references = f.table("tableWidget_mtref");
+    BodyAdminFixture::go(references, 0, 0);
+    QTest::keyClick(references, Qt::Key_Delete);
+
+    QCOMPARE(f.seen(), boxes);
+    QCOMPARE(f.changes(), sent);
+    QCOMPARE(f.controller->reports().mid(0, reports.size()), reports);
+    if (!sent.isEmpty())
+        QCOMPARE(f.table("tableWidget_mt")->item(0, 2)->text(), QString());
+}
+
+void TestTabs::deactivatingAReference_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QStringList>("sent");
+
+    QTest::newRow("No keeps it") << int(QMessageBox::No) << QStringList();
+    QTest::newRow("Yes deactivates")
+        << int(QMessageBox::Yes) << QStringList { "body active measurementtool_reference b01 no" };
+}
+
+void TestTabs::deactivatingAReference()
+{
+    QFETCH(int, answer);
+    QFETCH(QStringList, sent);
+
+    f.open(3);
+    f.answer({ answer });
+    BodyAdminFixture::click(f.table("tableWidget_mtref"), 0, 1);
+
+    QCOMPARE(f.seen(),
+        QStringList { "After deactivating the reference,\nthe corresponding Measurement Tool will "
+                      "not be tracked.|Continue?" });
+    QCOMPARE(f.changes(), sent);
+    QCOMPARE(f.table("tableWidget_mt")->item(0, 2)->foreground().color(), QColor(Qt::red));
+    QCOMPARE(f.table("tableWidget_mtref")->item(0, 1)->checkState(),
+        answer == QMessageBox::Yes ? Qt::Unchecked : Qt::Checked);
+}
+
+QTEST_MAIN(TestTabs)
+#include "tst_tabs.moc"
