@@ -31,6 +31,14 @@ public:
         controller = new sim::SimulatedController;
         controller->setManualClock(true);
         driver = new ModalDriver;
+        QObject::connect(
+            controller, &sim::SimulatedController::logged, controller, [this](const Log &entry) {
+                if (entry.kind == Log::Message && entry.receiver == QLatin1String("standard"))
+                    events << "! " + entry.text;
+                else if ((entry.kind == Log::Setting || entry.kind == Log::Command)
+                    && entry.text != QLatin1String("velora2 targetlib check_custom_calibration"))
+                    events << entry.text;
+            });
     }
 
     BodyAdministrationDlg *build()
@@ -60,7 +68,7 @@ public:
         QApplication::processEvents();
         apply("@");
         apply("!");
-        controller->clearLog();
+        clear();
         return tab;
     }
 
@@ -119,45 +127,39 @@ public:
         table->setCurrentCell(row, column);
     }
 
-    // What changed the controller: settings and meta commands, in order,
-    // without the check that only refreshes the target table's view.
-    QStringList changes() const
+    void clear()
     {
-        QStringList texts;
-        for (const Log &entry : controller->log()) {
-            if ((entry.kind == Log::Setting || entry.kind == Log::Command)
-                && entry.text != QLatin1String("velora2 targetlib check_custom_calibration"))
-                texts << entry.text;
-        }
-        return texts;
+        controller->clearLog();
+        events.clear();
     }
 
     // The next boxes are answered with these buttons, any further one
-    // positively (Yes, else Ok) so that no test hangs on a surprise.
+    // positively (Yes, else Ok) so that no test hangs on a surprise. Each
+    // box goes into the events as "? text|informative text".
     void answer(const QList<int> &buttons = {})
     {
-        for (int button : buttons)
-            driver->pressButton(button);
-        for (int i = 0; i < 4; ++i)
-            driver->answer([](QWidget *modal) {
+        for (int i = 0; i < buttons.size() + 4; ++i) {
+            const int button = buttons.value(i, 0);
+            driver->answer([this, button](QWidget *modal) {
                 auto *box = qobject_cast<QMessageBox *>(modal);
-                QAbstractButton *yes = box ? box->button(QMessageBox::Yes) : nullptr;
-                QAbstractButton *ok = box ? box->button(QMessageBox::Ok) : nullptr;
-                if (yes || ok)
-                    (yes ? yes : ok)->click();
-                else
-                    static_cast<QDialog *>(modal)->reject();
+                if (!box)
+                    return static_cast<QDialog *>(modal)->reject();
+                events << "? " + box->text()
+                        + (box->informativeText().isEmpty() ? "" : "|" + box->informativeText());
+                QAbstractButton *chosen = box->button(QMessageBox::StandardButton(button));
+                if (!chosen)
+                    chosen = box->button(QMessageBox::Yes);
+                if (!chosen)
+                    chosen = box->button(QMessageBox::Ok);
+                chosen->click();
             });
+        }
     }
-    // The texts the boxes showed, informative text after a '|'.
-    QStringList seen() const
+    // A list written as "a | b | c".
+    static QStringList L(const char *items)
     {
-        QStringList texts;
-        for (const ModalDriver::Seen &box : driver->seen())
-            texts << box.text + (box.informativeText.isEmpty() ? "" : "|" + box.informativeText);
-        return texts;
+        return QString::fromUtf8(items).split(" | ", Qt::SkipEmptyParts);
     }
-
     void apply(const QString &kind)
     {
         for (const QString &change : qAsConst(m_changes)) {
@@ -170,6 +172,9 @@ public:
         }
     }
 
+    // What the user saw and the controller got, in order: "? " a box,
+    // "! " a report to the message log, else a setting or meta command.
+    QStringList events;
     sim::SimulatedController *controller = nullptr;
     BodyAdministrationDlg *dialog = nullptr;
     BodyTypeAdministrationTab *tab = nullptr;
