@@ -19,6 +19,18 @@
 
 #include <array>
 
+// A test's data columns: columns<int, QString>({ "row", "text" }).
+template<typename... T> void columns(const std::array<const char *, sizeof...(T)> &names)
+{
+    int i = 0;
+    (QTest::addColumn<T>(names[i++]), ...);
+}
+// The current data row's value in that column.
+template<typename T> T fetch(const char *name)
+{
+    return *static_cast<T *>(QTest::qData(name, qMetaTypeId<T>()));
+}
+
 // The body administration dialog on the simulated controller's default
 // scenario, shown without its modal loop so that a test drives its widgets.
 // Standard bodies: b01 glasses from the library (re-calibrated), b02 the
@@ -164,17 +176,6 @@ public:
                 chosen->click();
             });
         }
-    }
-    // A test's data columns: columns<int, QString>({ "row", "text" }).
-    template<typename... T> static void columns(const std::array<const char *, sizeof...(T)> &names)
-    {
-        int i = 0;
-        (QTest::addColumn<T>(names[i++]), ...);
-    }
-    // The current data row's value in that column.
-    template<typename T> static T data(const char *name)
-    {
-        return *static_cast<T *>(QTest::qData(name, qMetaTypeId<T>()));
     }
     // A list written as "a | b | c".
     static QStringList L(const char *items)

@@ -9,7 +9,6 @@ class TestBodyAdministrationDlg : public QObject
 
     QPushButton *button(const char *name) const { return f.widget<QPushButton>(name); }
     QTabWidget *tabs() const { return f.widget<QTabWidget>("tabWidget"); }
-    template<typename T> static T data(const char *name) { return BodyAdminFixture::data<T>(name); }
     // Runs the dialog's modal loop, does this inside it and closes it.
     int exec(const std::function<void(QDialog *)> &inside)
     {
@@ -52,7 +51,7 @@ private slots:
 
     void tabSets_data()
     {
-        BodyAdminFixture::columns<QString, int, int, int, int, QStringList>(
+        columns<QString, int, int, int, int, QStringList>(
             { "system", "systemMinor", "systemPatch", "major", "minor", "titles" });
         const QString s = "&Standard", g = "&Gripwand", i = "F&ingertracking",
                       m = "&Measurement Tool";
@@ -71,14 +70,14 @@ private slots:
     void tabSets()
     {
         BackendVersions &versions = f.controller->backendVersions();
-        versions.systemType = data<QString>("system");
-        versions.systemVersion = { 2, data<int>("systemMinor"), data<int>("systemPatch") };
-        versions.backendVersion = { data<int>("major"), data<int>("minor"), 0 };
+        versions.systemType = fetch<QString>("system");
+        versions.systemVersion = { 2, fetch<int>("systemMinor"), fetch<int>("systemPatch") };
+        versions.backendVersion = { fetch<int>("major"), fetch<int>("minor"), 0 };
         f.build();
         QStringList shown;
         for (int i = 0; i < tabs()->count(); ++i)
             shown << tabs()->tabText(i);
-        QCOMPARE(shown, data<QStringList>("titles"));
+        QCOMPARE(shown, fetch<QStringList>("titles"));
 
         // The third tab of an ORBILUX is the measurement tool's, with its button.
         if (shown.size() == 3 && shown.last() == "&Measurement Tool") {
@@ -94,8 +93,7 @@ private slots:
 
     void lock_data()
     {
-        BodyAdminFixture::columns<int, int, QString, bool>(
-            { "minor", "patch", "changeable", "locked" });
+        columns<int, int, QString, bool>({ "minor", "patch", "changeable", "locked" });
         QTest::newRow("1.9, no") << 9 << 0 << "no" << true;
         QTest::newRow("1.9.-1 passes the gate") << 9 << -1 << "no" << true;
         QTest::newRow("1.9.-2 fails it") << 9 << -2 << "no" << false;
@@ -105,10 +103,10 @@ private slots:
     }
     void lock()
     {
-        const QString changeable = data<QString>("changeable");
-        const bool locked = data<bool>("locked");
+        const QString changeable = fetch<QString>("changeable");
+        const bool locked = fetch<bool>("locked");
         f.controller->backendVersions().backendVersion
-            = { 1, data<int>("minor"), data<int>("patch") };
+            = { 1, fetch<int>("minor"), fetch<int>("patch") };
         if (changeable.isEmpty())
             f.controller->failCommand("config is_changeable");
         else
@@ -117,25 +115,24 @@ private slots:
 
         bool lockIcon = false;
         QStringList enabled;
-        QCOMPARE(exec([&](QDialog *modal) {
+        const QStringList watched = BodyAdminFixture::L(
+            "spinBox_standard_bodies | pushButton_up | pushButton_down | tableWidget_standard");
+        const int result = exec([&](QDialog *modal) {
             const QImage lockImage = QIcon(":/lock.png").pixmap(16).toImage();
             lockIcon = modal->windowIcon().pixmap(16).toImage() == lockImage;
-            for (const char *name : { "spinBox_standard_bodies", "pushButton_up", "pushButton_down",
-                     "tableWidget_standard" }) {
+            for (const QString &name : watched) {
                 if (f.widget(name)->isEnabled())
                     enabled << name;
             }
-        }),
-            int(QDialog::Accepted));
+        });
+        QCOMPARE(result, int(QDialog::Accepted));
 
         QCOMPARE(f.dialog->isLocked(), locked);
         QCOMPARE(f.dialog->tab(0)->isLocked(), locked);
         QCOMPARE(lockIcon, locked);
         // The first body is selected: Up stays off, Down follows the lock.
         QCOMPARE(enabled,
-            locked ? QStringList()
-                   : QStringList {
-                       "spinBox_standard_bodies", "pushButton_down", "tableWidget_standard" });
+            locked ? QStringList() : QStringList({ watched.at(0), watched.at(2), watched.at(3) }));
     }
 
     void refusesToCloseDuringCalibration()
@@ -180,7 +177,7 @@ private slots:
 
     void handOverTexts_data()
     {
-        BodyAdminFixture::columns<QString, int, QString>({ "button", "index", "message" });
+        columns<QString, int, QString>({ "button", "index", "message" });
         QTest::newRow("custom calibration, b12")
             << "pushButton_calibration" << 11 << "OpenBodyCalDialog standard b12";
         QTest::newRow("adjustment, bare 12") << "pushButton_body_adjustment" << 11
@@ -199,16 +196,16 @@ private slots:
     // table speaks German, the other modules still get the controller's words.
     void handOverTexts()
     {
-        const QString message = data<QString>("message");
+        const QString message = fetch<QString>("message");
         QTranslator german;
         QVERIFY(german.load(TRACKING_QM_FILE));
         QCoreApplication::installTranslator(&german);
         f.open();
         QCOMPARE(f.table()->item(3, 6)->text(), QString("nicht kalibriert"));
         QCOMPARE(f.table()->item(2, 6)->text(), QString::fromUtf8("Vollst\xc3\xa4ndig"));
-        f.dialog->onAdminTabWidget_selectionChanged("standard", data<int>("index"));
+        f.dialog->onAdminTabWidget_selectionChanged("standard", fetch<int>("index"));
         QMetaObject::invokeMethod(
-            f.dialog, qPrintable("on_" + data<QString>("button") + "_clicked"));
+            f.dialog, qPrintable("on_" + fetch<QString>("button") + "_clicked"));
         QCoreApplication::removeTranslator(&german);
 
         QCOMPARE(

@@ -8,13 +8,11 @@ class TestBodyLoader : public QObject
 {
     Q_OBJECT
 
-    template<typename T> static T data(const char *name) { return BodyAdminFixture::data<T>(name); }
-
 private slots:
     void queriesByVersion_data()
     {
         // Letters of the queries below, in the order they are sent.
-        BodyAdminFixture::columns<QString, QString>({ "version", "asked" });
+        columns<QString, QString>({ "version", "asked" });
         QTest::newRow("0.2: nothing but the filter") << QString("0.2.0") << "f";
         QTest::newRow("0.3: calibration state") << QString("0.3.0") << "cf";
         QTest::newRow("0.16: description") << QString("0.16.0") << "dcf";
@@ -26,7 +24,7 @@ private slots:
     }
     void queriesByVersion()
     {
-        const QString asked = data<QString>("asked");
+        const QString asked = fetch<QString>("asked");
         const QString b = " standard b02";
         const QMap<QChar, QString> query { { 'd', "body desc" + b },
             { 'l', "body targetlib_name" + b }, { 'a', "body active" + b },
@@ -46,7 +44,7 @@ private slots:
             const QString setting = QString(change).replace("%1", b);
             controller.setValue(setting.section(" = ", 0, 0), setting.section(" = ", 1));
         }
-        const QStringList version = data<QString>("version").split('.');
+        const QStringList version = fetch<QString>("version").split('.');
         controller.backendVersions().backendVersion
             = { version.at(0).toInt(), version.at(1).toInt(), version.at(2).toInt() };
         CommandChannel channel(&controller, &controller.backendVersions());
@@ -62,7 +60,7 @@ private slots:
     void calibrationText_data()
     {
         // State letters: calibrated, library, re-calibrated, sensor, hand-eye.
-        BodyAdminFixture::columns<QString, QString>({ "state", "text" });
+        columns<QString, QString>({ "state", "text" });
         QTest::newRow("uncalibrated") << QString("lrsh") << "not calibrated";
         QTest::newRow("custom") << QString("c") << "Custom";
         QTest::newRow("custom, re-calibrated") << QString("cr") << "Custom, re-calibrated";
@@ -74,19 +72,19 @@ private slots:
     }
     void calibrationText()
     {
-        const QString state = data<QString>("state");
+        const QString state = fetch<QString>("state");
         BodyRecord body;
         body.calibrated = state.contains('c');
         body.targetLibraryName = state.contains('l') ? "GL-5" : "";
         body.recalibrated = state.contains('r');
         body.inertialSensor = state.contains('s') ? "S" : "";
         body.hybridCalibrated = state.contains('h');
-        QCOMPARE(BodyLoader::calibrationText(body), data<QString>("text"));
+        QCOMPARE(BodyLoader::calibrationText(body), fetch<QString>("text"));
     }
 
     void filterText_data()
     {
-        BodyAdminFixture::columns<QString, QString, QString>({ "enabled", "preset", "text" });
+        columns<QString, QString, QString>({ "enabled", "preset", "text" });
         QTest::newRow("off") << QString("no") << "preset6d_std_custom"
                              << "not active";
         QTest::newRow("Yes is not yes") << QString("Yes") << "preset6d_default"
@@ -104,8 +102,8 @@ private slots:
     {
         sim::SimulatedController controller;
         const QString b = " gripwand b01";
-        controller.setValue("body filter6d_enabled" + b, data<QString>("enabled"));
-        controller.setValue("body filter6d_preset" + b, data<QString>("preset"));
+        controller.setValue("body filter6d_enabled" + b, fetch<QString>("enabled"));
+        controller.setValue("body filter6d_preset" + b, fetch<QString>("preset"));
         controller.setValue("filter6d preset_desc preset6d_default", "\"Default\"");
         controller.setValue("body filter6d_prediction" + b, "0.0125");
         controller.setValue("body filter6d_strength" + b, "0.5");
@@ -113,15 +111,14 @@ private slots:
         controller.setValue("filter6d mode_desc mode6d_smooth", "\"smooth\"");
         CommandChannel channel(&controller, &controller.backendVersions());
 
-        QCOMPARE(BodyLoader(channel).filterText("gripwand", 0), data<QString>("text"));
+        QCOMPARE(BodyLoader(channel).filterText("gripwand", 0), fetch<QString>("text"));
         // None of the filter queries is reported when it fails.
         QCOMPARE(controller.reports(), QStringList());
     }
 
     void reference_data()
     {
-        BodyAdminFixture::columns<QString, QString, int, bool>(
-            { "reply", "type", "index", "reference" });
+        columns<QString, QString, int, bool>({ "reply", "type", "index", "reference" });
         QTest::newRow("b03 is index 2") << QString("standard b03") << "standard" << 2 << true;
         QTest::newRow("other body") << QString("standard b03") << "standard" << 1 << false;
         QTest::newRow("three digits") << QString("standard b100") << "standard" << 99 << true;
@@ -134,10 +131,10 @@ private slots:
     {
         sim::SimulatedController controller;
         controller.backendVersions().backendVersion = { 1, 24, 0 };
-        controller.setValue("tracking reference", data<QString>("reply"));
+        controller.setValue("tracking reference", fetch<QString>("reply"));
         CommandChannel channel(&controller, &controller.backendVersions());
-        QCOMPARE(BodyLoader(channel).load(data<QString>("type"), data<int>("index")).isReference,
-            data<bool>("reference"));
+        QCOMPARE(BodyLoader(channel).load(fetch<QString>("type"), fetch<int>("index")).isReference,
+            fetch<bool>("reference"));
     }
 
     void failedQueriesAreReported()
