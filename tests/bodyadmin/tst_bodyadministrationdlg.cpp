@@ -55,17 +55,12 @@ private slots:
             { "system", "systemMinor", "systemPatch", "major", "minor", "titles" });
         const QString s = "&Standard", g = "&Gripwand", i = "F&ingertracking",
                       m = "&Measurement Tool";
-        QTest::newRow("0.16") << QString("VELORA TX8") << 1 << 0 << 0 << 16 << QStringList { s, g };
-        QTest::newRow("0.17") << QString("VELORA TX8") << 1 << 0 << 0 << 17
-                              << QStringList { s, g, i };
-        QTest::newRow("1.3") << QString("VELORA TX8") << 1 << 0 << 1 << 3
-                             << QStringList { s, g, i, m };
-        QTest::newRow("ORBILUX 2.9.3")
-            << QString("ORBILUX compact") << 9 << 3 << 1 << 24 << QStringList { s, g };
-        QTest::newRow("ORBILUX 2.9.4")
-            << QString("ORBILUX compact") << 9 << 4 << 1 << 3 << QStringList { s, g, m };
-        QTest::newRow("ORBILUX 2.10.0, 1.2")
-            << QString("ORBILUX") << 10 << 0 << 1 << 2 << QStringList { s, g };
+        row("0.16", QString("VELORA TX8"), 1, 0, 0, 16, QStringList { s, g });
+        row("0.17", QString("VELORA TX8"), 1, 0, 0, 17, QStringList { s, g, i });
+        row("1.3", QString("VELORA TX8"), 1, 0, 1, 3, QStringList { s, g, i, m });
+        row("ORBILUX 2.9.3", QString("ORBILUX compact"), 9, 3, 1, 24, QStringList { s, g });
+        row("ORBILUX 2.9.4", QString("ORBILUX compact"), 9, 4, 1, 3, QStringList { s, g, m });
+        row("ORBILUX 2.10.0, 1.2", QString("ORBILUX"), 10, 0, 1, 2, QStringList { s, g });
     }
     void tabSets()
     {
@@ -94,12 +89,12 @@ private slots:
     void lock_data()
     {
         columns<int, int, QString, bool>({ "minor", "patch", "changeable", "locked" });
-        QTest::newRow("1.9, no") << 9 << 0 << "no" << true;
-        QTest::newRow("1.9.-1 passes the gate") << 9 << -1 << "no" << true;
-        QTest::newRow("1.9.-2 fails it") << 9 << -2 << "no" << false;
-        QTest::newRow("1.8, no: the gate fails") << 8 << 0 << "no" << false;
-        QTest::newRow("1.24, No") << 24 << 0 << "No" << false;
-        QTest::newRow("query fails") << 24 << 0 << "" << false;
+        row("1.9, no", 9, 0, "no", true);
+        row("1.9.-1 passes the gate", 9, -1, "no", true);
+        row("1.9.-2 fails it", 9, -2, "no", false);
+        row("1.8, no: the gate fails", 8, 0, "no", false);
+        row("1.24, No", 24, 0, "No", false);
+        row("query fails", 24, 0, "", false);
     }
     void lock()
     {
@@ -115,8 +110,8 @@ private slots:
 
         bool lockIcon = false;
         QStringList enabled;
-        const QStringList watched = BodyAdminFixture::L(
-            "spinBox_standard_bodies | pushButton_up | pushButton_down | tableWidget_standard");
+        const QStringList watched
+            = L("spinBox_standard_bodies | pushButton_up | pushButton_down | tableWidget_standard");
         const int result = exec([&](QDialog *modal) {
             const QImage lockImage = QIcon(":/lock.png").pixmap(16).toImage();
             lockIcon = modal->windowIcon().pixmap(16).toImage() == lockImage;
@@ -178,19 +173,17 @@ private slots:
     void handOverTexts_data()
     {
         columns<QString, int, QString>({ "button", "index", "message" });
-        QTest::newRow("custom calibration, b12")
-            << "pushButton_calibration" << 11 << "OpenBodyCalDialog standard b12";
-        QTest::newRow("adjustment, bare 12") << "pushButton_body_adjustment" << 11
-                                             << "OpenBodyAdjustmentDialog standard|12|calibrated";
-        QTest::newRow("adjustment of an uncalibrated body")
-            << "pushButton_body_adjustment" << 3
-            << "OpenBodyAdjustmentDialog standard|4|uncalibrated";
-        QTest::newRow("hybrid") << "pushButton_hybridCalibration" << 2
-                                << "OpenHybridBodyCalibration standard|3|Full";
-        QTest::newRow("hybrid, library re-calibrated")
-            << "pushButton_hybridCalibration" << 0
-            << "OpenHybridBodyCalibration standard|1|Target Library, re-calibrated";
-        QTest::newRow("nothing selected") << "pushButton_calibration" << -1 << "";
+        row("custom calibration, b12", "pushButton_calibration", 11,
+            "OpenBodyCalDialog standard b12");
+        row("adjustment, bare 12", "pushButton_body_adjustment", 11,
+            "OpenBodyAdjustmentDialog standard|12|calibrated");
+        row("adjustment of an uncalibrated body", "pushButton_body_adjustment", 3,
+            "OpenBodyAdjustmentDialog standard|4|uncalibrated");
+        row("hybrid", "pushButton_hybridCalibration", 2,
+            "OpenHybridBodyCalibration standard|3|Full");
+        row("hybrid, library re-calibrated", "pushButton_hybridCalibration", 0,
+            "OpenHybridBodyCalibration standard|1|Target Library, re-calibrated");
+        row("nothing selected", "pushButton_calibration", -1, "");
     }
     // The calibration state is data: with the German translation installed the
     // table speaks German, the other modules still get the controller's words.

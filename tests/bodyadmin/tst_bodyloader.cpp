@@ -13,14 +13,13 @@ private slots:
     {
         // Letters of the queries below, in the order they are sent.
         columns<QString, QString>({ "version", "asked" });
-        QTest::newRow("0.2: nothing but the filter") << QString("0.2.0") << "f";
-        QTest::newRow("0.3: calibration state") << QString("0.3.0") << "cf";
-        QTest::newRow("0.16: description") << QString("0.16.0") << "dcf";
-        QTest::newRow("1.11: library, activeness, re-calibration") << QString("1.11.0") << "dlacrf";
-        QTest::newRow("1.12: inertial sensor and its hand-eye state")
-            << QString("1.12.-1") << "dlacrshf";
-        QTest::newRow("1.24: reference") << QString("1.24.0") << "dlacrshft";
-        QTest::newRow("1.23 pre-release: no reference") << QString("1.24.-2") << "dlacrshf";
+        row("0.2: nothing but the filter", QString("0.2.0"), "f");
+        row("0.3: calibration state", QString("0.3.0"), "cf");
+        row("0.16: description", QString("0.16.0"), "dcf");
+        row("1.11: library, activeness, re-calibration", QString("1.11.0"), "dlacrf");
+        row("1.12: inertial sensor and its hand-eye state", QString("1.12.-1"), "dlacrshf");
+        row("1.24: reference", QString("1.24.0"), "dlacrshft");
+        row("1.23 pre-release: no reference", QString("1.24.-2"), "dlacrshf");
     }
     void queriesByVersion()
     {
@@ -61,14 +60,13 @@ private slots:
     {
         // State letters: calibrated, library, re-calibrated, sensor, hand-eye.
         columns<QString, QString>({ "state", "text" });
-        QTest::newRow("uncalibrated") << QString("lrsh") << "not calibrated";
-        QTest::newRow("custom") << QString("c") << "Custom";
-        QTest::newRow("custom, re-calibrated") << QString("cr") << "Custom, re-calibrated";
-        QTest::newRow("library") << QString("cl") << "Target Library";
-        QTest::newRow("library, re-calibrated")
-            << QString("clr") << "Target Library, re-calibrated";
-        QTest::newRow("sensor without hand-eye") << QString("clrs") << "Optical";
-        QTest::newRow("sensor with hand-eye") << QString("csh") << "Full";
+        row("uncalibrated", QString("lrsh"), "not calibrated");
+        row("custom", QString("c"), "Custom");
+        row("custom, re-calibrated", QString("cr"), "Custom, re-calibrated");
+        row("library", QString("cl"), "Target Library");
+        row("library, re-calibrated", QString("clr"), "Target Library, re-calibrated");
+        row("sensor without hand-eye", QString("clrs"), "Optical");
+        row("sensor with hand-eye", QString("csh"), "Full");
     }
     void calibrationText()
     {
@@ -85,18 +83,12 @@ private slots:
     void filterText_data()
     {
         columns<QString, QString, QString>({ "enabled", "preset", "text" });
-        QTest::newRow("off") << QString("no") << "preset6d_std_custom"
-                             << "not active";
-        QTest::newRow("Yes is not yes") << QString("Yes") << "preset6d_default"
-                                        << "not active";
-        QTest::newRow("predefined preset") << QString("yes") << "preset6d_default"
-                                           << "Default";
-        QTest::newRow("custom") << QString("yes") << "preset6d_std_custom"
-                                << "0.50/12ms/smooth";
-        QTest::newRow("custom hybrid") << QString("yes") << "preset6d_hybrid_custom"
-                                       << "12ms/smooth";
-        QTest::newRow("custom needs both parts") << QString("yes") << "preset6d_hybrid"
-                                                 << "";
+        row("off", QString("no"), "preset6d_std_custom", "not active");
+        row("Yes is not yes", QString("Yes"), "preset6d_default", "not active");
+        row("predefined preset", QString("yes"), "preset6d_default", "Default");
+        row("custom", QString("yes"), "preset6d_std_custom", "0.50/12ms/smooth");
+        row("custom hybrid", QString("yes"), "preset6d_hybrid_custom", "12ms/smooth");
+        row("custom needs both parts", QString("yes"), "preset6d_hybrid", "");
     }
     void filterText()
     {
@@ -119,13 +111,12 @@ private slots:
     void reference_data()
     {
         columns<QString, QString, int, bool>({ "reply", "type", "index", "reference" });
-        QTest::newRow("b03 is index 2") << QString("standard b03") << "standard" << 2 << true;
-        QTest::newRow("other body") << QString("standard b03") << "standard" << 1 << false;
-        QTest::newRow("three digits") << QString("standard b100") << "standard" << 99 << true;
-        QTest::newRow("one part only") << QString("standard") << "standard" << 0 << false;
-        QTest::newRow("double blank keeps an empty part")
-            << QString("standard  b01") << "standard" << 0 << false;
-        QTest::newRow("not for other types") << QString("standard b01") << "gripwand" << 0 << false;
+        row("b03 is index 2", QString("standard b03"), "standard", 2, true);
+        row("other body", QString("standard b03"), "standard", 1, false);
+        row("three digits", QString("standard b100"), "standard", 99, true);
+        row("one part only", QString("standard"), "standard", 0, false);
+        row("double blank keeps an empty part", QString("standard  b01"), "standard", 0, false);
+        row("not for other types", QString("standard b01"), "gripwand", 0, false);
     }
     void reference()
     {

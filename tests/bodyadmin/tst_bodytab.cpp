@@ -25,7 +25,6 @@ class TestBodyTab : public QObject
         }
         return texts.join('|');
     }
-    static QStringList L(const char *items) { return BodyAdminFixture::L(items); }
     BodyAdminFixture f;
 
 private slots:
@@ -67,9 +66,9 @@ private slots:
 
     void sensorResetNeedsNoWarmup()
     {
-        f.setUp({ "inertial warmup = yes", "body inertial_sensor standard b04 = VX IMU 'A5678'",
-            "inertial sensor_handeye VX IMU 'A1234' = none" });
-        f.open();
+        f.open(0,
+            { "inertial warmup = yes", "body inertial_sensor standard b04 = VX IMU 'A5678'",
+                "inertial sensor_handeye VX IMU 'A1234' = none" });
         f.tab->update_tab();
         // Asked once per refresh, however many sensors there are.
         QCOMPARE(f.controller->commands().count("inertial available"), 1);
@@ -89,7 +88,7 @@ private slots:
             { "setUp", "row", "column", "answer", "events", "after" });
         const auto add = [](const char *name, const QStringList &setUp, int row, int column,
                              int answer, const QStringList &events, const QString &after = {}) {
-            QTest::newRow(name) << setUp << row << column << answer << events << after;
+            ::row(name, setUp, row, column, answer, events, after);
         };
         const QStringList none;
         const int no = QMessageBox::No;
@@ -228,8 +227,7 @@ private slots:
         for (bool key : { false, true }) {
             if (key && column != Active && column != Reference && column != Delete)
                 break;
-            f.setUp(fetch<QStringList>("setUp"));
-            f.open();
+            f.open(0, fetch<QStringList>("setUp"));
             f.answer({ fetch<int>("answer") });
             if (key) {
                 BodyAdminFixture::go(f.table(), row, column == Delete ? Id : column);
@@ -265,29 +263,24 @@ private slots:
         columns<QStringList, bool, int, QString, QStringList, QString>(
             { "setUp", "doubleClick", "row", "typed", "events", "shown" });
         const QString allowed = "a-b_c+d=e.f,g;h:i/j";
-        QTest::newRow("F2") << QStringList() << false << 3 << "Tool 4"
-                            << L("body desc standard b04 \"Tool 4\"") << "Tool 4";
-        QTest::newRow("double click")
-            << QStringList() << true << 3 << allowed
-            << QStringList { "body desc standard b04 \"" + allowed + '"' } << allowed;
-        QTest::newRow("a double quote cannot be typed")
-            << QStringList() << false << 3 << "a\"b\\c" << L("body desc standard b04 \"abc\"")
-            << "abc";
-        QTest::newRow("at most 100 characters")
-            << QStringList() << false << 3 << QString(150, 'x')
-            << QStringList { "body desc standard b04 \"" + QString(100, 'x') + '"' }
-            << QString(100, 'x');
-        QTest::newRow("refused rename shows the controller's")
-            << L("!body desc standard b01 *") << false << 0 << "X"
-            << L("body desc standard b01 \"X\" | ! Error: Unable to set description of body "
-                 "standard b01")
-            << "Glasses";
+        row("F2", QStringList(), false, 3, "Tool 4", L("body desc standard b04 \"Tool 4\""),
+            "Tool 4");
+        row("double click", QStringList(), true, 3, allowed,
+            QStringList { "body desc standard b04 \"" + allowed + '"' }, allowed);
+        row("a double quote cannot be typed", QStringList(), false, 3, "a\"b\\c",
+            L("body desc standard b04 \"abc\""), "abc");
+        row("at most 100 characters", QStringList(), false, 3, QString(150, 'x'),
+            QStringList { "body desc standard b04 \"" + QString(100, 'x') + '"' },
+            QString(100, 'x'));
+        row("refused rename shows the controller's", L("!body desc standard b01 *"), false, 0, "X",
+            L("body desc standard b01 \"X\" | ! Error: Unable to set description of body "
+              "standard b01"),
+            "Glasses");
     }
     void rename()
     {
         const int row = fetch<int>("row");
-        f.setUp(fetch<QStringList>("setUp"));
-        f.open();
+        f.open(0, fetch<QStringList>("setUp"));
         if (fetch<bool>("doubleClick")) {
             BodyAdminFixture::click(f.table(), row, Name, true);
         } else {
@@ -315,29 +308,25 @@ private slots:
         const QStringList lastIsReference = L("tracking reference = standard b04");
         const QStringList question = L("? Decreasing the number of standard bodies will disable "
                                        "the reference!\n\nContinue?");
-        QTest::newRow("typing 10 sends 10 once")
-            << lastIsReference << "10" << 0 << L("standard number_of_bodies 10") << 10;
-        QTest::newRow("the meant value is asked about, No")
-            << lastIsReference << "2" << int(QMessageBox::No) << question << 4;
-        QTest::newRow("the meant value is asked about, Yes")
-            << lastIsReference << "2" << 0 << question + L("standard number_of_bodies 2") << 2;
-        QTest::newRow("only the last body is looked at")
-            << L("tracking reference = standard b03") << "2" << 0
-            << L("standard number_of_bodies 2") << 2;
-        QTest::newRow("arrow up") << QStringList() << "Up" << 0 << L("standard number_of_bodies 5")
-                                  << 5;
-        QTest::newRow("a refused count does not stay")
-            << L("!standard number_of_bodies 10") << "10" << 0
-            << L("standard number_of_bodies 10 | ! Error: Unable to set number of standard bodies "
-                 "to 10")
-            << 4;
+        row("typing 10 sends 10 once", lastIsReference, "10", 0, L("standard number_of_bodies 10"),
+            10);
+        row("the meant value is asked about, No", lastIsReference, "2", int(QMessageBox::No),
+            question, 4);
+        row("the meant value is asked about, Yes", lastIsReference, "2", 0,
+            question + L("standard number_of_bodies 2"), 2);
+        row("only the last body is looked at", L("tracking reference = standard b03"), "2", 0,
+            L("standard number_of_bodies 2"), 2);
+        row("arrow up", QStringList(), "Up", 0, L("standard number_of_bodies 5"), 5);
+        row("a refused count does not stay", L("!standard number_of_bodies 10"), "10", 0,
+            L("standard number_of_bodies 10 | ! Error: Unable to set number of standard bodies "
+              "to 10"),
+            4);
     }
     void numberOfBodies()
     {
         const QString typed = fetch<QString>("typed");
         const int rows = fetch<int>("rows");
-        f.setUp(fetch<QStringList>("setUp"));
-        f.open();
+        f.open(0, fetch<QStringList>("setUp"));
         f.answer({ fetch<int>("answer") });
         auto *spinBox = f.widget<QSpinBox>("spinBox_standard_bodies");
         spinBox->setFocus();
@@ -365,20 +354,18 @@ private slots:
     {
         columns<int, QString, bool, QString, int>(
             { "row", "button", "refused", "sent", "selected" });
-        QTest::newRow("up") << 1 << "pushButton_up" << false
-                            << "velora2 body switch standard b02 standard b01" << 0;
-        QTest::newRow("down") << 2 << "pushButton_down" << false
-                              << "velora2 body switch standard b03 standard b04" << 3;
-        QTest::newRow("refused") << 2 << "pushButton_up" << true
-                                 << "velora2 body switch standard b03 standard b02" << 1;
+        row("up", 1, "pushButton_up", false, "velora2 body switch standard b02 standard b01", 0);
+        row("down", 2, "pushButton_down", false, "velora2 body switch standard b03 standard b04",
+            3);
+        row("refused", 2, "pushButton_up", true, "velora2 body switch standard b03 standard b02",
+            1);
     }
     void moveBodies()
     {
         const int row = fetch<int>("row");
         const bool refused = fetch<bool>("refused");
         const int selected = fetch<int>("selected");
-        f.setUp(refused ? QStringList { "!velora2 body switch*" } : QStringList());
-        f.open();
+        f.open(0, refused ? QStringList { "!velora2 body switch*" } : QStringList());
         f.answer();
         BodyAdminFixture::click(f.table(), row, 0);
         const QString moved = f.table()->item(row, Name)->text();
@@ -440,8 +427,8 @@ private slots:
     {
         // calibratedRow: the next row is not calibrated
         columns<int, QString, int>({ "key", "table", "calibratedRow" });
-        QTest::newRow("standard") << 0 << "tableWidget_standard" << 2;
-        QTest::newRow("Gripwand") << 1 << "tableWidget_gripwand" << 0;
+        row("standard", 0, "tableWidget_standard", 2);
+        row("Gripwand", 1, "tableWidget_gripwand", 0);
     }
     void filterRuleFollowsTheCurrentBody()
     {

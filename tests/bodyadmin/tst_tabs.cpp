@@ -31,7 +31,6 @@ class TestTabs : public QObject
         }
     }
     QPushButton *tabButton(const char *name) const { return f.tab->findChild<QPushButton *>(name); }
-    static QStringList L(const char *items) { return BodyAdminFixture::L(items); }
     bool enabled(const QString &name) const
     {
         return f.tab->findChild<QWidget *>(name)->isEnabled();
@@ -46,27 +45,21 @@ private slots:
     {
         columns<QStringList, QStringList>({ "setUp", "events" });
         const QString refused = "! Error: Unable to start target library calibration";
-        QTest::newRow("calibration type missing")
-            << L("cal available targetlib = no")
-            << QStringList { refused + ". Calibration type is not available" };
-        QTest::newRow("availability unknown")
-            << L("!cal available targetlib") << QStringList { refused };
-        QTest::newRow("already active")
-            << L("status active = cal targetlib")
-            << QStringList { refused + ". Calibration is already active." };
-        QTest::newRow("status unknown") << L("!status active") << QStringList { refused };
-        QTest::newRow("err lets it start")
-            << L("status active = err")
-            << L("velora2 cal targetlib start | ! target library calibration started");
-        QTest::newRow("the controller refuses")
-            << L("!velora2 cal targetlib start")
-            << QStringList { "velora2 cal targetlib start", refused };
+        row("calibration type missing", L("cal available targetlib = no"),
+            QStringList { refused + ". Calibration type is not available" });
+        row("availability unknown", L("!cal available targetlib"), QStringList { refused });
+        row("already active", L("status active = cal targetlib"),
+            QStringList { refused + ". Calibration is already active." });
+        row("status unknown", L("!status active"), QStringList { refused });
+        row("err lets it start", L("status active = err"),
+            L("velora2 cal targetlib start | ! target library calibration started"));
+        row("the controller refuses", L("!velora2 cal targetlib start"),
+            QStringList { "velora2 cal targetlib start", refused });
     }
     void searchStart()
     {
         const QStringList events = fetch<QStringList>("events");
-        f.setUp(fetch<QStringList>("setUp"));
-        f.open();
+        f.open(0, fetch<QStringList>("setUp"));
         f.clickButton("pushButton_start");
         QCOMPARE(f.events, events);
         const bool searching = events.last().endsWith("started");
@@ -82,21 +75,17 @@ private slots:
         // The standard and measurement-tool tabs count the tracked standard
         // targets when the search ends; the others announce the count of their
         // last refresh, which no refresh made here.
-        QTest::newRow("standard") << 0 << QStringList()
-                                  << "2 targets could be identified in library";
-        QTest::newRow("standard, one") << 0 << QStringList { "targetlib target_bodytype t04 = 'x'" }
-                                       << "One target could be identified in library";
-        QTest::newRow("measurement tools")
-            << 3 << QStringList() << "2 targets could be identified in library";
-        QTest::newRow("Gripwand") << 1 << QStringList()
-                                  << "No targets could be identified in library";
+        row("standard", 0, QStringList(), "2 targets could be identified in library");
+        row("standard, one", 0, QStringList { "targetlib target_bodytype t04 = 'x'" },
+            "One target could be identified in library");
+        row("measurement tools", 3, QStringList(), "2 targets could be identified in library");
+        row("Gripwand", 1, QStringList(), "No targets could be identified in library");
     }
     void searchRunsToTheEnd()
     {
         const int key = fetch<int>("key");
         const QString announced = fetch<QString>("announced");
-        f.setUp(fetch<QStringList>("setUp"));
-        f.open(key);
+        f.open(key, fetch<QStringList>("setUp"));
         f.answer();
         tabButton("pushButton_start")->click();
         f.controller->advanceClock(1824);
@@ -156,18 +145,16 @@ private slots:
     void controlsDuringSearch_data()
     {
         columns<int, QStringList, QStringList>({ "key", "locked", "free" });
-        QTest::newRow("standard") << int(BodyTabFactory::Standard)
-                                  << L("spinBox_standard_bodies | pushButton_filter | "
-                                       "pushButton_customCalibration | comboBox_filter")
-                                  << L("tableWidget_standard");
-        QTest::newRow("Gripwand")
-            << int(BodyTabFactory::Gripwand) << QStringList()
-            << L("spinBox_gripwands | pushButton_filter | pushButton_calibration");
-        QTest::newRow("hands") << int(BodyTabFactory::Fingertracking) << QStringList()
-                               << L("spinBox_fingertracking | pushButton_calibration");
-        QTest::newRow("measurement tools")
-            << int(BodyTabFactory::MeasurementTool) << L("spinBox_mtref | comboBox_filter")
-            << L("spinBox_mt");
+        row("standard", int(BodyTabFactory::Standard),
+            L("spinBox_standard_bodies | pushButton_filter | "
+              "pushButton_customCalibration | comboBox_filter"),
+            L("tableWidget_standard"));
+        row("Gripwand", int(BodyTabFactory::Gripwand), QStringList(),
+            L("spinBox_gripwands | pushButton_filter | pushButton_calibration"));
+        row("hands", int(BodyTabFactory::Fingertracking), QStringList(),
+            L("spinBox_fingertracking | pushButton_calibration"));
+        row("measurement tools", int(BodyTabFactory::MeasurementTool),
+            L("spinBox_mtref | comboBox_filter"), L("spinBox_mt"));
     }
     void controlsDuringSearch()
     {
@@ -235,59 +222,50 @@ private slots:
         const QStringList std1 = L("? This target is already calibrated as standard target ID "
                                    "1.|Delete the standard target ID 1?");
 
-        QTest::newRow("GL-5 moves from body 1, which bends")
-            << 0 << none << 3 << "t01" << 0
-            << free1 + QStringList { calibrate.arg("GL-5"), bends.arg("Glasses 5 markers") };
-        QTest::newRow("a named body is asked about, Cancel")
-            << 0 << none << 1 << "t04" << int(QMessageBox::Cancel) << overwrite;
-        QTest::newRow("a named body is asked about, Ok")
-            << 0 << none << 1 << "t04" << 0
-            << overwrite + L("velora2 body calibrate_from_targetlib standard b02 TR-4");
-        QTest::newRow("measurement-tool reference") << 0 << none << 3 << "t05" << 0
-                                                    << mr1
+        row("GL-5 moves from body 1, which bends", 0, none, 3, "t01", 0,
+            free1 + QStringList { calibrate.arg("GL-5"), bends.arg("Glasses 5 markers") });
+        row("a named body is asked about, Cancel", 0, none, 1, "t04", int(QMessageBox::Cancel),
+            overwrite);
+        row("a named body is asked about, Ok", 0, none, 1, "t04", 0,
+            overwrite + L("velora2 body calibrate_from_targetlib standard b02 TR-4"));
+        row("measurement-tool reference", 0, none, 3, "t05", 0,
+            mr1
                 + L("body number_of_marker measurementtool_reference b01 0 | body desc "
                     "measurementtool_reference b01 \"\"")
-                + QStringList { calibrate.arg("TR-5") };
-        QTest::newRow("HMD bends")
-            << 0 << none << 3 << "t03" << 0
-            << QStringList { calibrate.arg("HMD-7"), bends.arg("Head-mounted display frame") };
-        QTest::newRow("another letter case does not warn")
-            << 0 << L("targetlib group_name g02 = \"hmd Target\"") << 3 << "t03" << 0
-            << QStringList { calibrate.arg("HMD-7") };
-        QTest::newRow("the calibration fails")
-            << 0 << L("!velora2 body calibrate_from_targetlib*") << 3 << "t04" << 0
-            << QStringList { calibrate.arg("TR-4"),
-                   "! Error: Unable to calibrate body from target library" };
-        QTest::newRow("freeing the other body fails")
-            << 0 << L("!body number_of_marker standard b01 0 | !body desc standard b01 *") << 3
-            << "t01" << 0
-            << QStringList { free1.at(0), "! Unable to reset markers of target standard 1",
-                   free1.at(1), "! Unable to reset description of target standard standard",
-                   calibrate.arg("GL-5"), bends.arg("Glasses 5 markers") };
-        QTest::newRow("the other bodies' targets unknown")
-            << 0 << L("!body targetlib_name standard b01") << 3 << "t04" << 0
-            << L("! Unable to get info targetlib ID of body")
+                + QStringList { calibrate.arg("TR-5") });
+        row("HMD bends", 0, none, 3, "t03", 0,
+            QStringList { calibrate.arg("HMD-7"), bends.arg("Head-mounted display frame") });
+        row("another letter case does not warn", 0, L("targetlib group_name g02 = \"hmd Target\""),
+            3, "t03", 0, QStringList { calibrate.arg("HMD-7") });
+        row("the calibration fails", 0, L("!velora2 body calibrate_from_targetlib*"), 3, "t04", 0,
+            QStringList {
+                calibrate.arg("TR-4"), "! Error: Unable to calibrate body from target library" });
+        row("freeing the other body fails", 0,
+            L("!body number_of_marker standard b01 0 | !body desc standard b01 *"), 3, "t01", 0,
+            QStringList { free1.at(0), "! Unable to reset markers of target standard 1",
+                free1.at(1), "! Unable to reset description of target standard standard",
+                calibrate.arg("GL-5"), bends.arg("Glasses 5 markers") });
+        row("the other bodies' targets unknown", 0, L("!body targetlib_name standard b01"), 3,
+            "t04", 0,
+            L("! Unable to get info targetlib ID of body")
                 + QStringList { calibrate.arg("TR-4"),
-                      "! Error: Unable to get targetlib name of body standard b01" };
-        QTest::newRow("deselect deletes the body")
-            << 0 << none << 0 << "" << 0
-            << L("? Delete geometry of Standard body 1?") + preset1 + free1;
-        QTest::newRow("standard body on a reference, Cancel")
-            << 3 << none << 1 << "t01" << int(QMessageBox::Cancel) << std1;
-        QTest::newRow("standard body on a reference, Ok") << 3 << none << 1 << "t01" << 0
-                                                          << std1 + preset1 + free1
-                + L("velora2 body calibrate_from_targetlib measurementtool_reference b02 GL-5");
-        QTest::newRow("Gripwand")
-            << 1 << none << 1 << "t06" << 0
-            << L("body number_of_marker gripwand b01 0 | body desc gripwand b01 \"\" | velora2 "
-                 "body calibrate_from_targetlib gripwand b02 GW-3");
+                    "! Error: Unable to get targetlib name of body standard b01" });
+        row("deselect deletes the body", 0, none, 0, "", 0,
+            L("? Delete geometry of Standard body 1?") + preset1 + free1);
+        row("standard body on a reference, Cancel", 3, none, 1, "t01", int(QMessageBox::Cancel),
+            std1);
+        row("standard body on a reference, Ok", 3, none, 1, "t01", 0,
+            std1 + preset1 + free1
+                + L("velora2 body calibrate_from_targetlib measurementtool_reference b02 GL-5"));
+        row("Gripwand", 1, none, 1, "t06", 0,
+            L("body number_of_marker gripwand b01 0 | body desc gripwand b01 \"\" | velora2 "
+              "body calibrate_from_targetlib gripwand b02 GW-3"));
     }
     void assignment()
     {
         const int key = fetch<int>("key");
         const QString target = fetch<QString>("target");
-        f.setUp(fetch<QStringList>("setUp"));
-        f.open(key);
+        f.open(key, fetch<QStringList>("setUp"));
         const QStringList tables = L("tableWidget_standard | tableWidget_gripwand | "
                                      "tableWidget_fingertracking | tableWidget_mtref");
         BodyAdminFixture::click(f.table(tables.at(key)), fetch<int>("bodyRow"), 0);
@@ -305,31 +283,17 @@ private slots:
         // inserted; bodies: the word of the reports; red: of the notice.
         columns<int, QString, QString, QString, QString, QString, int, bool>(
             { "key", "spinBox", "label", "count", "bodies", "red", "unknownMax", "unknownRed" });
-        QTest::newRow("standard") << 0 << "spinBox_standard_bodies"
-                                  << "label_error"
-                                  << "standard number_of_bodies"
-                                  << "standard"
-                                  << "bodies" << 4 << true;
-        QTest::newRow("Gripwands") << 1 << "spinBox_gripwands"
-                                   << "label_error"
-                                   << "gripwand number_of_devices"
-                                   << "gripwand"
-                                   << "gripwands" << 20 << false;
-        QTest::newRow("hands") << 2 << "spinBox_fingertracking"
-                               << "label_error_fingertracking"
-                               << "fingertracking number_of_hands"
-                               << "fingertracking hand"
-                               << "Hands" << 4 << false;
-        QTest::newRow("tools") << 3 << "spinBox_mt"
-                               << "label_error_mt"
-                               << "measurementtool number_of_tools"
-                               << "measurementtool"
-                               << "Measurement Tools" << 4 << false;
-        QTest::newRow("references") << 3 << "spinBox_mtref"
-                                    << "label_error_mtref"
-                                    << "measurementtool number_of_references"
-                                    << "measurementtool_reference"
-                                    << "Measurement references" << 4 << false;
+        row("standard", 0, "spinBox_standard_bodies", "label_error", "standard number_of_bodies",
+            "standard", "bodies", 4, true);
+        row("Gripwands", 1, "spinBox_gripwands", "label_error", "gripwand number_of_devices",
+            "gripwand", "gripwands", 20, false);
+        row("hands", 2, "spinBox_fingertracking", "label_error_fingertracking",
+            "fingertracking number_of_hands", "fingertracking hand", "Hands", 4, false);
+        row("tools", 3, "spinBox_mt", "label_error_mt", "measurementtool number_of_tools",
+            "measurementtool", "Measurement Tools", 4, false);
+        row("references", 3, "spinBox_mtref", "label_error_mtref",
+            "measurementtool number_of_references", "measurementtool_reference",
+            "Measurement references", 4, false);
     }
     // Once with the maximum unknown, once at a maximum of 2.
     void limits()
@@ -343,8 +307,7 @@ private slots:
         for (bool unknown : { true, false }) {
             if (!unknown && key == 0)
                 break;
-            f.setUp({ unknown ? "!" + maxQuery : maxQuery + " = 2" });
-            f.open(key);
+            f.open(key, { unknown ? "!" + maxQuery : maxQuery + " = 2" });
             f.tab->update_tab();
             auto *spin = f.tab->findChild<QSpinBox *>(fetch<QString>("spinBox"));
             auto *label = f.tab->findChild<QLabel *>(fetch<QString>("label"));
@@ -382,32 +345,26 @@ private slots:
     {
         columns<QStringList, QStringList>({ "setUp", "events" });
         const QStringList off = L("standard filter_bodies = no | gripwand filter = no");
-        QTest::newRow("switched back on")
-            << off << L("standard filter_bodies yes | gripwand filter yes");
-        QTest::newRow("already on") << QStringList() << QStringList();
-        QTest::newRow("locked") << off + L("config is_changeable = no") << QStringList();
-        QTest::newRow("before 1.12") << off + L("@version 1.11") << QStringList();
-        QTest::newRow("standard unknown")
-            << L("!standard filter_bodies")
-            << L("! Error: Unable to get global filter6d status of standard bodies");
-        QTest::newRow("standard refused")
-            << off + L("!standard filter_bodies yes")
-            << L("standard filter_bodies yes | ! Error: Unable to set global filter6d status of "
-                 "standard bodies | gripwand filter yes");
-        QTest::newRow("Gripwand unknown")
-            << L("!gripwand filter")
-            << L("! Error: Unable to get global filter6d status of Gripwand bodies");
-        QTest::newRow("Gripwand refused")
-            << off + L("!gripwand filter yes")
-            << L("standard filter_bodies yes | gripwand filter yes | ! Error: Unable to set global "
-                 "filter6d status of Gripwand bodies");
+        row("switched back on", off, L("standard filter_bodies yes | gripwand filter yes"));
+        row("already on", QStringList(), QStringList());
+        row("locked", off + L("config is_changeable = no"), QStringList());
+        row("before 1.12", off + L("@version 1.11"), QStringList());
+        row("standard unknown", L("!standard filter_bodies"),
+            L("! Error: Unable to get global filter6d status of standard bodies"));
+        row("standard refused", off + L("!standard filter_bodies yes"),
+            L("standard filter_bodies yes | ! Error: Unable to set global filter6d status of "
+              "standard bodies | gripwand filter yes"));
+        row("Gripwand unknown", L("!gripwand filter"),
+            L("! Error: Unable to get global filter6d status of Gripwand bodies"));
+        row("Gripwand refused", off + L("!gripwand filter yes"),
+            L("standard filter_bodies yes | gripwand filter yes | ! Error: Unable to set global "
+              "filter6d status of Gripwand bodies"));
     }
     // Another module switched the active configuration.
     void globalFilter()
     {
         const QStringList setUp = fetch<QStringList>("setUp");
-        f.setUp(setUp);
-        f.open();
+        f.open(0, setUp);
         if (setUp.contains("@version 1.11"))
             f.controller->backendVersions().backendVersion = { 1, 11, 0 };
         f.controller->sendMessage(
@@ -419,27 +376,13 @@ private slots:
     {
         columns<int, QString, QString, QString, QString>(
             { "minor", "device", "model", "serial", "report" });
-        QTest::newRow("short serial padded") << 24 << "wpan 0x0021 0x0003 7"
-                                             << "Gripwand 3"
-                                             << "00007"
-                                             << "";
-        QTest::newRow("long serial cut") << 24 << "wpan 0x0021 0x0004 1234567"
-                                         << "Gripwand 3 Pro"
-                                         << "12345"
-                                         << "";
-        QTest::newRow("no device") << 24 << "none"
-                                   << "none"
-                                   << ""
-                                   << "";
-        QTest::newRow("before 1.3 the model is unknown") << 2 << "wpan 0x0021 0x0003 4711"
-                                                         << "unknown"
-                                                         << "04711"
-                                                         << "";
-        QTest::newRow("unknown model: the vendor named twice")
-            << 24 << "wpan 0x0042 0x0009 4711"
-            << "unknown"
-            << "04711"
-            << "Error: Unable to get model description of vendor 0x0042 model 0x0042";
+        row("short serial padded", 24, "wpan 0x0021 0x0003 7", "Gripwand 3", "00007", "");
+        row("long serial cut", 24, "wpan 0x0021 0x0004 1234567", "Gripwand 3 Pro", "12345", "");
+        row("no device", 24, "none", "none", "", "");
+        row("before 1.3 the model is unknown", 2, "wpan 0x0021 0x0003 4711", "unknown", "04711",
+            "");
+        row("unknown model: the vendor named twice", 24, "wpan 0x0042 0x0009 4711", "unknown",
+            "04711", "Error: Unable to get model description of vendor 0x0042 model 0x0042");
     }
     void gripwandDevices()
     {
@@ -447,8 +390,7 @@ private slots:
         const QString device = fetch<QString>("device");
         const QString report = fetch<QString>("report");
         f.controller->backendVersions().backendVersion = { 1, minor, 0 };
-        f.setUp({ "gripwand device b01 = " + device });
-        f.open(1);
+        f.open(1, { "gripwand device b01 = " + device });
         f.tab->update_tab();
         QTableWidget *gripwands = f.table("tableWidget_gripwand");
         QCOMPARE(QStringList({ gripwands->item(0, 0)->text(), gripwands->item(0, 3)->text(),
@@ -468,13 +410,12 @@ private slots:
         const QStringList all = L("gripwand multiuser_available | gripwand "
                                   "multiuser_with_head_available | gripwand multiuser | gripwand "
                                   "multiuser_with_head");
-        QTest::newRow("multi-user with head") << QStringList() << 24 << all << "" << true;
-        QTest::newRow("0.12 skips the head question")
-            << QStringList() << 12 << QStringList { all.at(0), all.at(2), all.at(3) } << "" << true;
-        QTest::newRow("head switched off")
-            << L("gripwand multiuser_with_head = no") << 24 << all << "" << false;
-        QTest::newRow("multi-user off")
-            << L("gripwand multiuser = no") << 24 << QStringList(all.mid(0, 3)) << "" << false;
+        row("multi-user with head", QStringList(), 24, all, "", true);
+        row("0.12 skips the head question", QStringList(), 12,
+            QStringList { all.at(0), all.at(2), all.at(3) }, "", true);
+        row("head switched off", L("gripwand multiuser_with_head = no"), 24, all, "", false);
+        row("multi-user off", L("gripwand multiuser = no"), 24, QStringList(all.mid(0, 3)), "",
+            false);
         const char *unknown[] = { "whether multiuser gripwand is available",
             "multiuser gripwand with head available", "whether multiuser gripwand is activated",
             "whether multiuser gripwand with head is activated" };
@@ -487,8 +428,7 @@ private slots:
     {
         const QString report = fetch<QString>("report");
         const bool shown = fetch<bool>("shown");
-        f.setUp(fetch<QStringList>("setUp"));
-        f.open(1);
+        f.open(1, fetch<QStringList>("setUp"));
         f.controller->backendVersions().backendVersion = { 0, fetch<int>("minor"), 0 };
         f.tab->update_tab();
         QCOMPARE(f.controller->commands().filter(QRegExp("^gripwand multiuser")),
@@ -516,15 +456,13 @@ private slots:
     {
         columns<int, int, int, QString, bool, bool>(
             { "key", "major", "minor", "reply", "asked", "available" });
-        QTest::newRow("hands 0.16: never asked") << 2 << 0 << 16 << "yes" << false << false;
-        QTest::newRow("hands 0.17: asked, yes") << 2 << 0 << 17 << "yes" << true << true;
-        QTest::newRow("hands 1.21: asked, Yes is not yes")
-            << 2 << 1 << 21 << "Yes" << true << false;
-        QTest::newRow("hands 1.22: available without asking")
-            << 2 << 1 << 22 << "no" << false << true;
-        QTest::newRow("tools 1.2 never asks") << 3 << 1 << 2 << "yes" << false << false;
-        QTest::newRow("tools 1.3 asks, yes") << 3 << 1 << 3 << "yes" << true << true;
-        QTest::newRow("tools 1.3 asks, no") << 3 << 1 << 3 << "no" << true << false;
+        row("hands 0.16: never asked", 2, 0, 16, "yes", false, false);
+        row("hands 0.17: asked, yes", 2, 0, 17, "yes", true, true);
+        row("hands 1.21: asked, Yes is not yes", 2, 1, 21, "Yes", true, false);
+        row("hands 1.22: available without asking", 2, 1, 22, "no", false, true);
+        row("tools 1.2 never asks", 3, 1, 2, "yes", false, false);
+        row("tools 1.3 asks, yes", 3, 1, 3, "yes", true, true);
+        row("tools 1.3 asks, no", 3, 1, 3, "no", true, false);
     }
     // Built on their own: the dialog offers these tabs from those versions only.
     void availabilityByVersion()
@@ -580,26 +518,26 @@ private slots:
         const QStringList unlink = L("measurementtool reference_of_tool b01 none | measurementtool "
                                      "reference_of_tool b02 none");
         const QStringList linkedToM2 = L("measurementtool reference_of_tool b02 = 1");
-        QTest::newRow("used by M1 and M2") << linkedToM2 << 0 << linked + clear + unlink;
-        QTest::newRow("No leaves the controller alone")
-            << linkedToM2 << int(QMessageBox::No) << linked;
-        QTest::newRow("unused") << L("measurementtool reference_of_tool b01 = none") << 0
-                                << QStringList { question + "|Continue?" } + clear;
-        QTest::newRow("fails, the tools are unlinked anyway") << linkedToM2
+        row("used by M1 and M2", linkedToM2, 0, linked + clear + unlink);
+        row("No leaves the controller alone", linkedToM2, int(QMessageBox::No), linked);
+        row("unused", L("measurementtool reference_of_tool b01 = none"), 0,
+            QStringList { question + "|Continue?" } + clear);
+        row("fails, the tools are unlinked anyway",
+            linkedToM2
                 + L("!body desc measurementtool_reference b01 * | !measurementtool "
-                    "reference_of_tool b02 none") << 0
-                                                              << linked + clear
+                    "reference_of_tool b02 none"),
+            0,
+            linked + clear
                 + L("! Unable to reset description of Measurement Tool reference 1 | "
                     "measurementtool reference_of_tool b01 none | measurementtool "
                     "reference_of_tool b02 none | ! Error: Unable to set ref. body | ? Delete "
-                    "body 1 failed");
+                    "body 1 failed"));
     }
     // The Delete key on a reference row asks the tab's own question.
     void deletingAReference()
     {
         const QStringList events = fetch<QStringList>("events");
-        f.setUp(fetch<QStringList>("setUp"));
-        f.open(3);
+        f.open(3, fetch<QStringList>("setUp"));
         f.answer({ fetch<int>("answer") });
         QTableWidget *references = f.table("tableWidget_mtref");
         BodyAdminFixture::go(references, 0, 0);
@@ -612,8 +550,8 @@ private slots:
     void deactivatingAReference_data()
     {
         columns<int, QStringList>({ "answer", "sent" });
-        QTest::newRow("No keeps it") << int(QMessageBox::No) << QStringList();
-        QTest::newRow("Yes deactivates") << 0 << L("body active measurementtool_reference b01 no");
+        row("No keeps it", int(QMessageBox::No), QStringList());
+        row("Yes deactivates", 0, L("body active measurementtool_reference b01 no"));
     }
     void deactivatingAReference()
     {
