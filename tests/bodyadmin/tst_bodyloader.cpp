@@ -24,25 +24,24 @@ private slots:
     void queriesByVersion()
     {
         const QString asked = fetch<QString>("asked");
+        // A calibrated reference with everything a controller can tell; the
+        // letter names the query.
         const QString b = " standard b02";
-        const QMap<QChar, QString> query { { 'd', "body desc" + b },
-            { 'l', "body targetlib_name" + b }, { 'a', "body active" + b },
-            { 'c', "body calibrated" + b }, { 'r', "body recalibrated" + b },
-            { 's', "body inertial_sensor" + b }, { 'h', "inertial sensor_handeye VX IMU 'A1'" },
-            { 'f', "body filter6d_enabled" + b }, { 't', "tracking reference" } };
+        QMap<QChar, QString> query;
+        sim::SimulatedController controller;
+        for (const char *change :
+            { "d body desc%1 = \"Room \"ref\"\"", "l body targetlib_name%1 = none",
+                "a body active%1 = yes", "c body calibrated%1 = yes", "r body recalibrated%1 = no",
+                "s body inertial_sensor%1 = VX IMU 'A1'",
+                "h inertial sensor_handeye VX IMU 'A1' = none", "f body filter6d_enabled%1 = no",
+                "t tracking reference = standard b02" }) {
+            const QString setting = QString(change).mid(2).replace("%1", b);
+            query[change[0]] = setting.section(" = ", 0, 0);
+            controller.setValue(query[change[0]], setting.section(" = ", 1));
+        }
         QStringList queries;
         for (QChar letter : asked)
             queries << query.value(letter);
-        sim::SimulatedController controller;
-        // A calibrated reference with everything a controller can tell.
-        for (const char *change : { "body desc%1 = \"Room \"ref\"\"",
-                 "body targetlib_name%1 = none", "body active%1 = yes", "body calibrated%1 = yes",
-                 "body recalibrated%1 = no", "body inertial_sensor%1 = VX IMU 'A1'",
-                 "inertial sensor_handeye VX IMU 'A1' = none", "body filter6d_enabled%1 = no",
-                 "tracking reference = standard b02" }) {
-            const QString setting = QString(change).replace("%1", b);
-            controller.setValue(setting.section(" = ", 0, 0), setting.section(" = ", 1));
-        }
         const QStringList version = fetch<QString>("version").split('.');
         controller.backendVersions().backendVersion
             = { version.at(0).toInt(), version.at(1).toInt(), version.at(2).toInt() };
@@ -145,16 +144,13 @@ private slots:
         QCOMPARE(body.inertialSensor, QString("S1"));
         QCOMPARE(body.calibrationText, QString("not calibrated"));
         QCOMPARE(controller.reports(),
-            QStringList({ "Error: Unable to get number of standard bodies",
-                "Error: Unable to get description of bodytype standard",
-                "Error: Unable to get availability of filter6d for bodytype standard",
-                "Error: Unable to get description of body standard b01 ",
-                "Error: Unable to get targetlib name of body standard b01",
-                "Error: Unable to get activeness of body standard b01",
-                "Error: Unable to get calibration state of body standard b01",
-                "Error: Unable to get recalibrated state of body standard b01",
-                "Error: Unable to get handeye status of sensor S1",
-                "Error: Unable to info body reference" }));
+            L("Error: Unable to get number of standard bodies | Error: Unable to get description "
+              "of bodytype standard | Error: Unable to get availability of filter6d for bodytype "
+              "standard | Error: Unable to get description of body standard b01  | Error: Unable "
+              "to get targetlib name of body standard b01 | Error: Unable to get activeness of "
+              "body standard b01 | Error: Unable to get calibration state of body standard b01 | "
+              "Error: Unable to get recalibrated state of body standard b01 | Error: Unable to get "
+              "handeye status of sensor S1 | Error: Unable to info body reference"));
     }
 };
 
