@@ -27,7 +27,6 @@ private slots:
     void form()
     {
         f.build();
-        QCOMPARE(f.dialog->objectName(), QString("BodyAdminDialog"));
         QCOMPARE(f.dialog->windowTitle(), QString("Body Administration"));
         QCOMPARE(f.dialog->minimumSize(), QSize(1400, 800));
         QCOMPARE(tabs()->widget(0), f.dialog->tab(BodyTabFactory::Standard));

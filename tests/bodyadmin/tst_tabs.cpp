@@ -498,9 +498,10 @@ private slots:
         QCOMPARE(tab->isTypeAvailable(), available);
     }
 
-    void deletingAReference_data()
+    void referenceRows_data()
     {
-        columns<QStringList, int, QStringList>({ "setUp", "answer", "events" });
+        // column: 0 the Delete key on the row, 1 a click on the Active box
+        columns<QStringList, int, int, QStringList>({ "setUp", "column", "answer", "events" });
         const QString question = "? Delete Measurement Tool reference body 01?";
         const QStringList linked { question
             + "\nIf yes, the assignment to the Measurement Tool will be deleted.|Continue?" };
@@ -509,54 +510,49 @@ private slots:
         const QStringList unlink = L("measurementtool reference_of_tool b01 none | measurementtool "
                                      "reference_of_tool b02 none");
         const QStringList linkedToM2 = L("measurementtool reference_of_tool b02 = 1");
-        row("used by M1 and M2", linkedToM2, 0, linked + clear + unlink);
-        row("No leaves the controller alone", linkedToM2, int(QMessageBox::No), linked);
-        row("unused", L("measurementtool reference_of_tool b01 = none"), 0,
+        const QStringList deactivate = L("? After deactivating the reference,\nthe corresponding "
+                                         "Measurement Tool will not be tracked.|Continue?");
+        row("delete: used by M1 and M2", linkedToM2, 0, 0, linked + clear + unlink);
+        row("delete: No leaves the controller alone", linkedToM2, 0, int(QMessageBox::No), linked);
+        row("delete: unused", L("measurementtool reference_of_tool b01 = none"), 0, 0,
             QStringList { question + "|Continue?" } + clear);
-        row("fails, the tools are unlinked anyway",
+        row("delete fails, the tools are unlinked anyway",
             linkedToM2
                 + L("!body desc measurementtool_reference b01 * | !measurementtool "
                     "reference_of_tool b02 none"),
-            0,
+            0, 0,
             linked + clear
                 + L("! Unable to reset description of Measurement Tool reference 1 | "
                     "measurementtool reference_of_tool b01 none | measurementtool "
                     "reference_of_tool b02 none | ! Error: Unable to set ref. body | ? Delete "
                     "body 1 failed"));
+        row("deactivate: No keeps it", QStringList(), 1, int(QMessageBox::No), deactivate);
+        row("deactivate: Yes", QStringList(), 1, 0,
+            deactivate + L("body active measurementtool_reference b01 no"));
     }
-    // The Delete key on a reference row asks the tab's own question.
-    void deletingAReference()
+    // A reference row asks the tab's own questions.
+    void referenceRows()
     {
+        const int column = fetch<int>("column");
         const QStringList events = fetch<QStringList>("events");
         f.open(3, fetch<QStringList>("setUp"));
         f.answer({ fetch<int>("answer") });
         QTableWidget *references = f.table("tableWidget_mtref");
-        BodyAdminFixture::go(references, 0, 0);
-        QTest::keyClick(references, Qt::Key_Delete);
+        if (column == 0) {
+            BodyAdminFixture::go(references, 0, 0);
+            QTest::keyClick(references, Qt::Key_Delete);
+        } else {
+            BodyAdminFixture::click(references, 0, column);
+        }
         QCOMPARE(f.events, events);
-        if (events.size() > 1)
-            QCOMPARE(f.table("tableWidget_mt")->item(0, 2)->text(), QString());
-    }
-
-    void deactivatingAReference_data()
-    {
-        columns<int, QStringList>({ "answer", "sent" });
-        row("No keeps it", int(QMessageBox::No), QStringList());
-        row("Yes deactivates", 0, L("body active measurementtool_reference b01 no"));
-    }
-    void deactivatingAReference()
-    {
-        const int answer = fetch<int>("answer");
-        f.open(3);
-        f.answer({ answer });
-        BodyAdminFixture::click(f.table("tableWidget_mtref"), 0, 1);
-        QCOMPARE(f.events,
-            L("? After deactivating the reference,\nthe corresponding Measurement Tool will not "
-              "be tracked.|Continue?")
-                + fetch<QStringList>("sent"));
-        QCOMPARE(f.table("tableWidget_mt")->item(0, 2)->foreground().color(), QColor(Qt::red));
-        QCOMPARE(f.table("tableWidget_mtref")->item(0, 1)->checkState(),
-            answer ? Qt::Checked : Qt::Unchecked);
+        const QTableWidgetItem *tool = f.table("tableWidget_mt")->item(0, 2);
+        if (column == 1) {
+            QCOMPARE(tool->foreground().color(), QColor(Qt::red));
+            QCOMPARE(references->item(0, 1)->checkState(),
+                events.size() > 1 ? Qt::Unchecked : Qt::Checked);
+        } else if (events.size() > 1) {
+            QCOMPARE(tool->text(), QString());
+        }
     }
 };
 
