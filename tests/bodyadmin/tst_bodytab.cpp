@@ -100,8 +100,6 @@ private slots:
             L("body active standard b01 no | ! Error: Unable to set activeness of body standard "
               "b00"),
             "2|2|2");
-        add("activate an inactive calibrated body", L("body active standard b03 = no"), 2, Active,
-            0, L("body active standard b03 yes"), "2|2|2");
         add("the reference stays active on No", none, 1, Active, no, offReference, "2|2|2");
         add("the reference deactivated on Yes", none, 1, Active, 0,
             offReference + L("body active standard b02 no"), "2|0|2");
@@ -150,12 +148,6 @@ private slots:
                 "? Delete Standard body " + QString::number(body) + " failed" };
         };
         add("delete: No changes nothing", none, 0, Delete, no, delete1);
-        add("delete a library body", none, 0, Delete, 0, delete1 + deleted(1));
-        add("delete the reference", none, 1, Delete, 0,
-            delete2 + L("tracking reference none") + deleted(2));
-        add("delete a sensor body", none, 2, Delete, 0,
-            delete3 + QStringList { preset.arg(3), "body inertial_sensor standard b03 none" }
-                + deleted(3).mid(1));
         add("nothing to delete: the gate holds", none, 3, Delete, 0, none);
         add("delete: markers fail, the preset stays reset", { "!" + markers.arg(1) }, 0, Delete, 0,
             delete1 + deleted(1).mid(0, 2)

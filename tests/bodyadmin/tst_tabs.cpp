@@ -367,7 +367,8 @@ private slots:
     {
         columns<int, QString, QString, QString, QString>(
             { "minor", "device", "model", "serial", "report" });
-        row("short serial padded", 24, "wpan 0x0021 0x0003 7", "Gripwand 3", "00007", "");
+        row("short serial padded, 1.3 knows the model", 3, "wpan 0x0021 0x0003 7", "Gripwand 3",
+            "00007", "");
         row("long serial cut", 24, "wpan 0x0021 0x0004 1234567", "Gripwand 3 Pro", "12345", "");
         row("no device", 24, "none", "none", "", "");
         row("before 1.3 the model is unknown", 2, "wpan 0x0021 0x0003 4711", "unknown", "04711",
