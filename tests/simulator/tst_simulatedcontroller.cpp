@@ -64,28 +64,6 @@ private slots:
         QCOMPARE(controller.setParameter("tracking auto_restart no"),
             int(sim::SimulatedController::Refused));
     }
-    void searchFollowsManualClock()
-    {
-        sim::SimulatedController controller;
-        QVERIFY(controller.loadScenarioText("@present t02\n@search-duration 2000\n"
-                                            "status active = none\nstatus step_active = none\n"
-                                            "status progress = 0\ncal available targetlib = yes\n"
-                                            "targetlib number_of_targets = 2\n"
-                                            "targetlib target_status_tracked t01 = yes\n"
-                                            "targetlib target_status_tracked t02 = no\n",
-            "search"));
-        controller.setManualClock(true);
-        QCOMPARE(meta(controller, "velora2 cal targetlib start"), "velora2 ok");
-        QCOMPARE(stringOf(controller, "status step_active"), QString("cal targetlib"));
-        QCOMPARE(stringOf(controller, "targetlib target_status_tracked t01"), QString("no"));
-        controller.advanceClock(1000);
-        double progress = 0;
-        controller.getDouble(&progress, "status progress");
-        QCOMPARE(progress, 0.5);
-        QCOMPARE(stringOf(controller, "targetlib target_status_tracked t02"), QString("yes"));
-        controller.advanceClock(1000);
-        QCOMPARE(stringOf(controller, "status active"), QString("none"));
-    }
     void injections()
     {
         sim::SimulatedController controller;
