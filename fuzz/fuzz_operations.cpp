@@ -70,15 +70,9 @@ void bodyOperation(BodyTypeAdministrationTab *tab, FuzzBytes &bytes)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    Fuzzing::setUp(true);
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    FuzzBytes bytes(data, size);
+    FuzzBytes bytes { data, size };
     sim::SimulatedController controller;
     controller.setManualClock(true);
     controller.loadScenario(QStringLiteral(":/scenarios/%1.scn").arg(Scenarios[bytes.pick(4)]));

@@ -52,12 +52,6 @@ void applyRule(sim::SimulatedController &controller, const QByteArray &line)
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *, char ***)
-{
-    Fuzzing::setUp(true);
-    return 0;
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray input
@@ -68,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     for (const QByteArray &line : input.left(clicksAt).split('\n'))
         applyRule(controller, line);
     const int clicksFrom = clicksAt < 0 ? int(size) : clicksAt + 4;
-    FuzzBytes bytes(data + clicksFrom, size - size_t(clicksFrom));
+    FuzzBytes bytes { data + clicksFrom, size - size_t(clicksFrom) };
     Fuzzing::driveModals(&bytes);
 
     BackendVersions *versions = &controller.backendVersions();

@@ -58,7 +58,7 @@ void answerModal()
         return;
     sameModalTicks = modal == lastModal ? sameModalTicks + 1 : 0;
     lastModal = modal;
-    FuzzBytes none(nullptr, 0);
+    FuzzBytes none { nullptr, 0 };
     FuzzBytes &bytes = modalBytes ? *modalBytes : none;
     if (sameModalTicks < 40 && bytes.pick(3) != 0) {
         Fuzzing::poke(modal, bytes);
@@ -87,24 +87,22 @@ QByteArray FuzzBytes::text(int maxLength)
     return result;
 }
 
-namespace Fuzzing
-{
-
-void setUp(bool widgets)
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
     auto *home = new QTemporaryDir; // the preferences file goes there
     qputenv("HOME", QFile::encodeName(home->path()));
-    if (widgets)
-        new QApplication(qtArgc, qtArgv);
-    else
-        new QCoreApplication(qtArgc, qtArgv);
+    new QApplication(qtArgc, qtArgv);
     auto *timer = new QTimer(qApp);
     QObject::connect(timer, &QTimer::timeout, answerModal);
     timer->start(0);
+    return 0;
 }
+
+namespace Fuzzing
+{
 
 void require(bool ok, const QString &what)
 {

@@ -9,35 +9,26 @@
 
 class QWidget;
 
+// Every target gets a headless QApplication and a private home.
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv);
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
 // The fuzz input read as a user's decisions: every choice takes one byte,
 // and an exhausted input always chooses 0.
-class FuzzBytes
-{
-public:
-    FuzzBytes(const uint8_t *data, size_t size)
-        : data(data)
-        , size(size)
-    {
-    }
+struct FuzzBytes {
+    const uint8_t *data;
+    size_t size;
+    size_t at = 0;
+
     bool atEnd() const { return at >= size; }
     int pick(int choices) { return atEnd() || choices <= 0 ? 0 : data[at++] % choices; }
     // A length byte, then that many bytes (as far as there are).
     QByteArray text(int maxLength);
-
-private:
-    const uint8_t *data;
-    size_t size;
-    size_t at = 0;
 };
 
 namespace Fuzzing
 {
 
-// Headless Qt application with a private home; once per process.
-void setUp(bool widgets);
 // A failed check is a crash to libFuzzer: it keeps and shrinks the input.
 void require(bool ok, const QString &what);
 // One user action on an enabled widget of window: a button click, a table

@@ -2,9 +2,8 @@
 // corpus: each argument is a file or a folder of files.
 #include "fuzzing.h"
 
-#include <QDirIterator>
+#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <cstdio>
 
@@ -13,23 +12,19 @@ int main(int argc, char **argv)
     LLVMFuzzerInitialize(&argc, &argv);
     int inputs = 0;
     for (int i = 1; i < argc; ++i) {
-        QStringList files { QFile::decodeName(argv[i]) };
-        if (QFileInfo(files.first()).isDir()) {
-            files.clear();
-            QDirIterator it(QFile::decodeName(argv[i]), QDir::Files, QDirIterator::Subdirectories);
-            while (it.hasNext())
-                files << it.next();
-            files.sort();
-        }
-        for (const QString &name : qAsConst(files)) {
-            QFile file(name);
-            if (!file.open(QIODevice::ReadOnly)) {
+        const QDir folder(QFile::decodeName(argv[i]));
+        const QStringList files
+            = folder.exists() ? folder.entryList(QDir::Files) : QStringList { folder.path() };
+        for (const QString &file : files) {
+            const QString name = folder.exists() ? folder.filePath(file) : file;
+            QFile input(name);
+            if (!input.open(QIODevice::ReadOnly)) {
                 std::fprintf(stderr, "cannot read %s\n", qPrintable(name));
                 return 1;
             }
-            const QByteArray input = file.readAll();
+            const QByteArray bytes = input.readAll();
             LLVMFuzzerTestOneInput(
-                reinterpret_cast<const uint8_t *>(input.constData()), size_t(input.size()));
+                reinterpret_cast<const uint8_t *>(bytes.constData()), size_t(bytes.size()));
             ++inputs;
         }
     }
