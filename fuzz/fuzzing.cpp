@@ -100,8 +100,8 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
-    auto *home = new QTemporaryDir; // the preferences file goes there
-    qputenv("HOME", QFile::encodeName(home->path()));
+    static QTemporaryDir home; // the preferences file goes there
+    qputenv("HOME", QFile::encodeName(home.path()));
     new QApplication(qtArgc, qtArgv);
     // The offscreen platform says so for every dialog shown.
     static const QtMessageHandler qtHandler = qInstallMessageHandler(nullptr);
