@@ -6,21 +6,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cstring>
-
-namespace
-{
-
-constexpr int BufferSize = IOManager::ReplyBufferSize;
-constexpr int Guard = 32;
-
-void requireInBuffer(const char *buffer, const char *command)
-{
-    for (int i = BufferSize; i < BufferSize + Guard; ++i)
-        Fuzzing::require(buffer[i] == 'G', QStringLiteral("reply to %1 overruns").arg(command));
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
@@ -36,12 +23,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         Fuzzing::require(line >= 1 && line <= text.count(QLatin1Char('\n')) + 1, error);
     }
 
-    char buffer[BufferSize + Guard];
+    constexpr int BufferSize = IOManager::ReplyBufferSize;
+    char buffer[BufferSize + 32];
     const auto exchange = [&](bool meta, const char *command) {
         std::memset(buffer, 'G', sizeof buffer);
         meta ? controller.sendCommand(buffer, "%s", command)
              : controller.getString(buffer, "%s", command);
-        requireInBuffer(buffer, command);
+        Fuzzing::require(
+            std::all_of(buffer + BufferSize, std::end(buffer), [](char c) { return c == 'G'; }),
+            QStringLiteral("reply to %1 overruns").arg(command));
     };
     const QStringList paths = controller.parameters().keys();
     for (int i = 0; i < paths.size() && i < 60; ++i)
