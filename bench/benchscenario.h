@@ -1,6 +1,8 @@
 #ifndef BENCHSCENARIO_H
 #define BENCHSCENARIO_H
 
+#include <QString>
+
 namespace sim
 {
 class SimulatedController;
@@ -13,11 +15,24 @@ class SimulatedController;
 class BenchScenario
 {
 public:
-    // Standard bodies 1..count, cycling through the four default ones.
-    static bool setStandardBodies(sim::SimulatedController &controller, int count);
-    // Library targets 1..count, cycling through the eight default ones, each
-    // new one in one of the three default groups.
-    static void setLibraryTargets(sim::SimulatedController &controller, int count);
+    struct Size {
+        int standard = 100;
+        int gripwands = 20; // in multi-user mode, each with its head
+        int hands = 4;
+        int tools = 4;
+        int references = 4;
+        int targets = 200;
+        int groups = 20;
+        int tracked = 30;
+    };
+    static void apply(sim::SimulatedController &controller, const Size &size);
+
+private:
+    // Bodies 1..count of the type, cycling through the default ones; the
+    // controller's own count parameters follow.
+    static void setBodies(sim::SimulatedController &controller, const QString &type, int count,
+        const QString &countPath, const QString &maximumPath);
+    static void setLibrary(sim::SimulatedController &controller, const Size &size);
 };
 
 #endif // BENCHSCENARIO_H

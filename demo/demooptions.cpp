@@ -1,10 +1,25 @@
 #include "demooptions.h"
 
+#include <simulatedcontroller.h>
+
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QLibraryInfo>
 #include <QRegularExpression>
+#include <QTranslator>
 
 #ifndef TRACKING_PLUGIN_PATH
 #define TRACKING_PLUGIN_PATH ""
+#endif
+#ifndef TRACKING_TRANSLATIONS_DIR
+#define TRACKING_TRANSLATIONS_DIR ""
+#endif
+#ifndef TRACKING_INSTALLED_PLUGIN
+#define TRACKING_INSTALLED_PLUGIN ""
+#endif
+#ifndef TRACKING_INSTALLED_TRANSLATIONS
+#define TRACKING_INSTALLED_TRANSLATIONS ""
 #endif
 
 DemoOptions::Outcome DemoOptions::parse(
@@ -15,7 +30,8 @@ DemoOptions::Outcome DemoOptions::parse(
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(
         tr("Loads the tracking settings plug-in into a small host window and connects it to a "
-           "simulated tracking controller. Every command the plug-in sends shows in the log."));
+           "simulated tracking controller. Every command the plug-in sends shows in the log.\n"
+           "Without a display it renders every dialog and tab to PNG files instead."));
     const QCommandLineOption helpOption = parser.addHelpOption();
     const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption pluginOption("plugin",
@@ -35,13 +51,23 @@ DemoOptions::Outcome DemoOptions::parse(
     const QCommandLineOption systemVersionOption("system-version",
         tr("Tracking-system version, overriding the scenario's."), tr("major.minor.patch"));
     const QCommandLineOption observerOption("observer", tr("Run the module in observer mode."));
-    const QCommandLineOption screenshotOption("screenshot",
-        tr("Save the main window as a PNG <file> after start-up, then quit."), tr("file"));
+    const QCommandLineOption renderOption("render",
+        tr("Render the window and every dialog and tab of the module to PNG files in <folder>, "
+           "print their paths and quit (what happens anyway without a display)."),
+        tr("folder"));
+    const QCommandLineOption checkOption(
+        "check", tr("Load the plug-in, print its name, version and file, and quit."));
+    const QCommandLineOption logOption(
+        "log", tr("Write the controller log to <file> as it happens."), tr("file"));
+    const QCommandLineOption saveScenarioOption("save-scenario",
+        tr("On exit, save the controller's state as a scenario <file> that loads back to it."),
+        tr("file"));
     const QCommandLineOption languageOption("language",
         tr("Show the module in <language> (for example de), as a host in that language would."),
         tr("language"));
     parser.addOptions({ pluginOption, scenarioOption, listOption, backendOption, systemTypeOption,
-        systemVersionOption, observerOption, screenshotOption, languageOption });
+        systemVersionOption, observerOption, renderOption, checkOption, logOption,
+        saveScenarioOption, languageOption });
 
     if (!parser.parse(arguments)) {
         *message = parser.errorText();
@@ -63,10 +89,18 @@ DemoOptions::Outcome DemoOptions::parse(
     if (parser.isSet(pluginOption))
         options->pluginPath = parser.value(pluginOption);
     options->scenario = parser.value(scenarioOption);
+    if (!options->scenario.isEmpty() && scenarioFile(options->scenario).isEmpty()) {
+        *message = tr("No scenario file or built-in scenario \"%1\" (see --list-scenarios)")
+                       .arg(options->scenario);
+        return Error;
+    }
     if (parser.isSet(systemTypeOption))
         options->systemType = parser.value(systemTypeOption);
     options->observer = parser.isSet(observerOption);
-    options->screenshotFile = parser.value(screenshotOption);
+    options->check = parser.isSet(checkOption);
+    options->renderFolder = parser.value(renderOption);
+    options->logFile = parser.value(logOption);
+    options->saveScenarioFile = parser.value(saveScenarioOption);
     options->language = parser.value(languageOption);
 
     const struct {
@@ -129,7 +163,54 @@ QString DemoOptions::versionText(const BackendVersions::Version &version)
     return QStringLiteral("%1.%2.%3").arg(version.major).arg(version.minor).arg(version.patch);
 }
 
+namespace
+{
+
+QString installedOrBuilt(const char *installed, const char *built)
+{
+    const QString path = QDir(QCoreApplication::applicationDirPath())
+                             .absoluteFilePath(QString::fromUtf8(installed));
+    return *installed && QFileInfo::exists(path) ? QDir::cleanPath(path) : QString::fromUtf8(built);
+}
+
+} // namespace
+
 QString DemoOptions::defaultPluginPath()
 {
-    return QStringLiteral(TRACKING_PLUGIN_PATH);
+    return installedOrBuilt(TRACKING_INSTALLED_PLUGIN, TRACKING_PLUGIN_PATH);
+}
+
+QString DemoOptions::translationsFolder()
+{
+    return installedOrBuilt(TRACKING_INSTALLED_TRANSLATIONS, TRACKING_TRANSLATIONS_DIR);
+}
+
+QStringList DemoOptions::installTranslations(const QString &language, QObject *owner)
+{
+    const QString qtFolder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    const QPair<QString, QString> files[] = { { QStringLiteral("tracking_"), translationsFolder() },
+        { QStringLiteral("velora-demo_"), translationsFolder() },
+        { QStringLiteral("qtbase_"), qtFolder } };
+    QStringList missing;
+    for (const auto &file : files) {
+        auto *translator = new QTranslator(owner);
+        if (translator->load(file.first + language, file.second))
+            QCoreApplication::installTranslator(translator);
+        else
+            missing << QDir(file.second).filePath(file.first + language);
+    }
+    return missing;
+}
+
+QString DemoOptions::scenarioFile(const QString &scenario)
+{
+    if (scenario.isEmpty())
+        return sim::SimulatedController::defaultScenario();
+    if (QFileInfo(scenario).isFile())
+        return scenario;
+    for (const QString &file : sim::SimulatedController::builtInScenarios()) {
+        if (QFileInfo(file).completeBaseName() == scenario)
+            return file;
+    }
+    return QString();
 }

@@ -22,7 +22,7 @@ public:
     static QStringList takeArguments(int &argc, char **argv);
 
     // Fills options from arguments (program name first). For ShowHelp and
-    // Error, message holds the text to print.
+    // Error, message holds the text to print. Needs an application object.
     static Outcome parse(const QStringList &arguments, DemoOptions *options, QString *message);
 
     // "MAJOR.MINOR.PATCH"; each part may be negative, since the controller
@@ -30,10 +30,20 @@ public:
     static bool parseVersion(const QString &text, BackendVersions::Version *version);
     static QString versionText(const BackendVersions::Version &version);
 
-    // The plug-in this build made, so the demo runs straight from the build tree.
+    // Next to an installed demo host its own installation, else what this
+    // build made, so the demo runs from an install and from the build tree.
     static QString defaultPluginPath();
+    static QString translationsFolder();
+    // Installs the module's, the demo's and Qt's own translation into
+    // language, as a host in that language does (Qt's makes the standard
+    // buttons follow); the translators are children of owner. Returns the
+    // files that were not found.
+    static QStringList installTranslations(const QString &language, QObject *owner);
+    // The file for a --scenario value: a file, or the name of a built-in one;
+    // empty when it is neither.
+    static QString scenarioFile(const QString &scenario);
 
-    QString pluginPath = defaultPluginPath();
+    QString pluginPath; // empty: defaultPluginPath()
     QString scenario; // a file or a built-in name; empty for the default scenario
     bool hasBackendVersion = false;
     BackendVersions::Version backendVersion;
@@ -41,7 +51,10 @@ public:
     BackendVersions::Version systemVersion;
     QString systemType; // null when not given
     bool observer = false;
-    QString screenshotFile;
+    bool check = false;
+    QString renderFolder; // empty: open the window when there is a display
+    QString logFile;
+    QString saveScenarioFile;
     QString language; // empty: the module's own English
 };
 

@@ -1,6 +1,7 @@
 #include "demowindow.h"
+#include "appiconengine.h"
 #include "demooptions.h"
-#include "logdock.h"
+#include "logwindow.h"
 #include "menubuilder.h"
 #include "simulatorlogmodel.h"
 #include "standinmodules.h"
@@ -13,6 +14,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QFormLayout>
@@ -21,6 +23,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QSaveFile>
 #include <QTextStream>
 #include <QVBoxLayout>
 
@@ -30,10 +33,13 @@ DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
     : QMainWindow(parent)
     , m_controller(new sim::SimulatedController(this))
     , m_logModel(new SimulatorLogModel(50000, this))
-    , m_logDock(new LogDock(m_logModel, this))
+    , m_logWindow(new LogWindow(m_logModel))
     , m_standIns(new StandInModules(m_controller, this, this))
 {
+    setObjectName(QStringLiteral("demo-host"));
     setWindowTitle(tr("Velora demo host"));
+    setWindowIcon(AppIconEngine::icon());
+    m_logWindow->setWindowIcon(windowIcon());
 
     // Registered by the host before the plug-in can: the type registry must
     // not keep pointers into a library that is unloaded before exit.
@@ -46,11 +52,12 @@ DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
         m_logModel->append(entry);
     connect(
         m_controller, &sim::SimulatedController::logged, m_logModel, &SimulatorLogModel::append);
-    connect(m_logDock, &LogDock::clearRequested, this, [this] {
+    connect(m_logWindow, &LogWindow::clearRequested, this, [this] {
         m_controller->clearLog();
         m_logModel->clear();
     });
-    addDockWidget(Qt::BottomDockWidgetArea, m_logDock);
+    connect(m_logWindow, &LogWindow::saveRequested, this, &DemoWindow::saveLogAs);
+    connect(m_logWindow, &LogWindow::lineEntered, this, &DemoWindow::takeLine);
 
     loadScenario(options);
     loadModule(options.pluginPath, options.observer);
@@ -60,43 +67,29 @@ DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
     if (module())
         m_standIns->announce();
 
-    resize(960, 680);
-    // A failed load leaves the room to the explanation.
-    resizeDocks({ m_logDock }, { module() ? 320 : 160 }, Qt::Vertical);
+    resize(760, 420);
 }
 
 DemoWindow::~DemoWindow()
 {
     m_loader.unload();
+    delete m_logWindow;
     // Children go in creation order, and the stand-ins must leave the
     // controller's receivers before the controller goes.
     delete m_standIns;
-}
-
-QString DemoWindow::scenarioFile(const QString &scenario)
-{
-    if (scenario.isEmpty())
-        return sim::SimulatedController::defaultScenario();
-    if (QFileInfo::exists(scenario))
-        return scenario;
-    const QStringList builtIn = sim::SimulatedController::builtInScenarios();
-    for (const QString &file : builtIn) {
-        if (QFileInfo(file).completeBaseName() == scenario)
-            return file;
-    }
-    return scenario;
 }
 
 void DemoWindow::closeEvent(QCloseEvent *event)
 {
     // The module's last calls come while the parent it was given still stands.
     m_loader.unload();
+    m_logWindow->close();
     event->accept();
 }
 
 void DemoWindow::loadScenario(const DemoOptions &options)
 {
-    m_scenarioFile = scenarioFile(options.scenario);
+    m_scenarioFile = DemoOptions::scenarioFile(options.scenario);
     if (!m_controller->loadScenario(m_scenarioFile, &m_scenarioErrors)
         && m_scenarioErrors.isEmpty())
         m_scenarioErrors << tr("%1: cannot be read").arg(m_scenarioFile);
@@ -114,7 +107,8 @@ void DemoWindow::loadScenario(const DemoOptions &options)
 
 void DemoWindow::loadModule(const QString &pluginPath, bool observer)
 {
-    ModuleInterface *module = m_loader.load(pluginPath);
+    ModuleInterface *module
+        = m_loader.load(pluginPath.isEmpty() ? DemoOptions::defaultPluginPath() : pluginPath);
     if (!module) {
         reportProblem(QStringLiteral("loadPlugin"), m_loader.errorString());
         return;
@@ -143,6 +137,22 @@ void DemoWindow::buildMenus()
     quit.action->setShortcut(QKeySequence::Quit);
     connect(quit.action, &QAction::triggered, this, &QWidget::close);
 
+    MenuEntry saveLog = hostEntry(tr("Save &log..."), tr("&File"), std::numeric_limits<int>::min());
+    saveLog.position = -2;
+    connect(saveLog.action, &QAction::triggered, this, &DemoWindow::saveLogAs);
+    MenuEntry saveScenario
+        = hostEntry(tr("Save &scenario..."), tr("&File"), std::numeric_limits<int>::min());
+    saveScenario.position = -1;
+    saveScenario.action->setStatusTip(tr("Write the controller's state as a scenario file"));
+    connect(saveScenario.action, &QAction::triggered, this, &DemoWindow::saveScenarioAs);
+    MenuEntry showLog = hostEntry(tr("Controller &log"), tr("&View"), 100);
+    showLog.action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
+    connect(showLog.action, &QAction::triggered, this, [this] {
+        m_logWindow->show();
+        m_logWindow->raise();
+        m_logWindow->activateWindow();
+    });
+
     MenuEntry configuration
         = hostEntry(tr("Active configuration &changed"), tr("&Configuration"), 200);
     configuration.action->setStatusTip(
@@ -153,11 +163,13 @@ void DemoWindow::buildMenus()
     MenuEntry about = hostEntry(tr("&About"), tr("&Help"), std::numeric_limits<int>::max());
     connect(about.action, &QAction::triggered, this, &DemoWindow::showAbout);
 
-    QList<MenuEntry> entries { quit, configuration, about };
+    QList<MenuEntry> entries { saveLog, saveScenario, quit, showLog, configuration, about };
     if (module()) {
         const QList<MenuEntry *> moduleEntries = module()->menuEntries();
-        for (const MenuEntry *entry : moduleEntries)
+        for (const MenuEntry *entry : moduleEntries) {
             entries.append(*entry);
+            m_moduleActions.append(entry->action);
+        }
     }
     MenuBuilder::build(menuBar(), entries);
 }
@@ -213,9 +225,10 @@ QWidget *DemoWindow::createCentralPage(bool observer)
     layout->addWidget(connection);
 
     if (module()) {
-        auto *hint = new QLabel(tr("Open the module's dialogs from its menus. The log below shows "
-                                   "every command and message the module exchanges with the "
-                                   "simulated controller; failures are marked red."));
+        auto *hint = new QLabel(tr("Open the module's dialogs from its menus. The controller log "
+                                   "(View menu) shows every command and message the module "
+                                   "exchanges with the simulated controller, failures marked "
+                                   "red; its console takes scenario lines."));
         hint->setWordWrap(true);
         layout->addWidget(hint);
         layout->addStretch(1);
@@ -244,4 +257,46 @@ void DemoWindow::showAbout()
            "%2<br>Qt %3</p>")
             .arg(moduleText.toHtmlEscaped(), m_loader.fileName().toHtmlEscaped(),
                 QString::fromLatin1(qVersion())));
+}
+
+void DemoWindow::takeLine(const QString &line)
+{
+    sim::SimulatedController::LogEntry entry;
+    entry.kind = sim::SimulatedController::LogEntry::Setting;
+    entry.operation = QStringLiteral("console");
+    entry.text = line;
+    entry.result = m_controller->takeScenarioLine(line, &entry.error) ? 0 : 1;
+    m_logModel->append(entry);
+}
+
+bool DemoWindow::saveScenario(const QString &fileName, QString *error) const
+{
+    QSaveFile file(fileName);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        file.write(m_controller->scenarioText().toUtf8());
+        if (file.commit())
+            return true;
+    }
+    *error = tr("Cannot write the scenario to %1: %2").arg(fileName, file.errorString());
+    return false;
+}
+
+void DemoWindow::saveLogAs()
+{
+    const QString fileName = QFileDialog::getSaveFileName(
+        m_logWindow->isVisible() ? static_cast<QWidget *>(m_logWindow) : this,
+        tr("Save the controller log"), QStringLiteral("controller.log"),
+        tr("Text files (*.log *.txt)"));
+    QString error;
+    if (!fileName.isEmpty() && !m_logModel->save(fileName, &error))
+        QMessageBox::warning(this, tr("Save the controller log"), error);
+}
+
+void DemoWindow::saveScenarioAs()
+{
+    const QString fileName = QFileDialog::getSaveFileName(this, tr("Save the controller's state"),
+        QStringLiteral("saved.scn"), tr("Scenarios (*.scn)"));
+    QString error;
+    if (!fileName.isEmpty() && !saveScenario(fileName, &error))
+        QMessageBox::warning(this, tr("Save the controller's state"), error);
 }

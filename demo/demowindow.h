@@ -7,7 +7,8 @@
 #include <QStringList>
 
 class DemoOptions;
-class LogDock;
+class LogWindow;
+class QAction;
 class ModuleInterface;
 namespace sim
 {
@@ -18,7 +19,7 @@ class StandInModules;
 
 // The host: a simulated controller, the module loaded from its plug-in with
 // the host's services handed over, the module's menus merged into the menu
-// bar, and the controller log in a dock.
+// bar, and the controller log with its console in a window of their own.
 class DemoWindow : public QMainWindow
 {
     Q_OBJECT
@@ -30,13 +31,17 @@ public:
     sim::SimulatedController *controller() const { return m_controller; }
     SimulatorLogModel *logModel() const { return m_logModel; }
     StandInModules *standIns() const { return m_standIns; }
+    LogWindow *logWindow() const { return m_logWindow; }
+    // The actions of the module's menu entries, in menu order.
+    QList<QAction *> moduleActions() const { return m_moduleActions; }
     // Null when the plug-in did not load; loadError() then says why.
     ModuleInterface *module() const { return m_loader.module(); }
     QString loadError() const { return m_loader.errorString(); }
     QStringList scenarioErrors() const { return m_scenarioErrors; }
 
-    // The file for a --scenario value: a file, or the name of a built-in one.
-    static QString scenarioFile(const QString &scenario);
+    // A console line for the controller; a bad one is logged as failed.
+    void takeLine(const QString &line);
+    bool saveScenario(const QString &fileName, QString *error) const;
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -48,10 +53,13 @@ private:
     QWidget *createCentralPage(bool observer);
     void reportProblem(const QString &operation, const QString &text);
     void showAbout();
+    void saveLogAs();
+    void saveScenarioAs();
 
     sim::SimulatedController *m_controller;
     SimulatorLogModel *m_logModel;
-    LogDock *m_logDock;
+    LogWindow *m_logWindow;
+    QList<QAction *> m_moduleActions;
     StandInModules *m_standIns;
     ModuleLoader m_loader;
     QString m_scenarioFile;

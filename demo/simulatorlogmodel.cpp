@@ -2,8 +2,38 @@
 
 #include <QBrush>
 #include <QColor>
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QTextStream>
 
 using LogEntry = sim::SimulatedController::LogEntry;
+
+namespace
+{
+
+// The target search reports its progress through the message log too; these
+// are the only reports that are not errors, in English or translated.
+bool isNotice(const QString &text)
+{
+    static const char *const notices[]
+        = { "target library calibration started", "%1 already calibrated",
+              "target library calibration stopped", "target library calibration cancelled" };
+    for (const char *notice : notices) {
+        for (const QString &form :
+            { QString::fromLatin1(notice), QCoreApplication::translate("TargetSearch", notice) }) {
+            const QString pattern = QRegularExpression::escape(form).replace(
+                QLatin1String("\\%1"), QLatin1String(".+"));
+            if (QRegularExpression(QLatin1Char('^') + pattern + QLatin1Char('$'))
+                    .match(text)
+                    .hasMatch())
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 SimulatorLogModel::SimulatorLogModel(int maximumRows, QObject *parent)
     : QAbstractTableModel(parent)
@@ -13,7 +43,7 @@ SimulatorLogModel::SimulatorLogModel(int maximumRows, QObject *parent)
 
 int SimulatorLogModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_entries.size();
+    return parent.isValid() ? 0 : m_rows.size();
 }
 
 int SimulatorLogModel::columnCount(const QModelIndex &parent) const
@@ -25,20 +55,30 @@ QVariant SimulatorLogModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return QVariant();
-    const LogEntry &entry = m_entries.at(index.row());
+    const Row &row = m_rows.at(index.row());
+    const bool failure = row.failure;
+    const bool message = row.entry.kind == LogEntry::Message;
     switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
-        return cellText(entry, index.column());
+        return cellText(row, index.column());
+    case KindRole:
+        return message ? Message : Call;
+    case FailureRole:
+        return failure;
+    case Qt::DecorationRole:
+        if (failure && index.column() == OperationColumn)
+            return QColor(200, 0, 0);
+        return QVariant();
     case Qt::BackgroundRole:
-        if (isFailure(entry))
+        if (failure)
             return QBrush(QColor(255, 214, 214));
-        if (entry.kind == LogEntry::Message)
+        if (message)
             return QBrush(QColor(232, 240, 255));
         return QVariant();
     case Qt::ForegroundRole:
         // Keep the text readable on the light highlights under a dark palette.
-        if (isFailure(entry) || entry.kind == LogEntry::Message)
+        if (failure || message)
             return QBrush(Qt::black);
         return QVariant();
     case Qt::TextAlignmentRole:
@@ -55,6 +95,8 @@ QVariant SimulatorLogModel::headerData(int section, Qt::Orientation orientation,
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
     switch (section) {
+    case TimeColumn:
+        return tr("Time");
     case OperationColumn:
         return tr("Operation");
     case TextColumn:
@@ -71,36 +113,80 @@ QVariant SimulatorLogModel::headerData(int section, Qt::Orientation orientation,
 bool SimulatorLogModel::isFailure(const LogEntry &entry)
 {
     if (entry.kind == LogEntry::Message)
-        return entry.receiver == QLatin1String("standard")
-            && entry.text.startsWith(QLatin1String("Error"));
+        return entry.operation == QLatin1String("sendMessage")
+            && entry.receiver == QLatin1String("standard") && !isNotice(entry.text);
     return entry.kind != LogEntry::ReplyTimeout && entry.result != 0;
 }
 
 void SimulatorLogModel::append(const LogEntry &entry)
 {
-    if (m_entries.size() >= m_maximumRows) {
+    if (m_rows.size() >= m_maximumRows) {
         // Drop a tenth at a time so that a full table does not shift on every entry.
         const int dropped = qMax(1, m_maximumRows / 10);
         beginRemoveRows(QModelIndex(), 0, dropped - 1);
-        m_entries.erase(m_entries.begin(), m_entries.begin() + dropped);
+        m_rows.erase(m_rows.begin(), m_rows.begin() + dropped);
         endRemoveRows();
     }
-    beginInsertRows(QModelIndex(), m_entries.size(), m_entries.size());
-    m_entries.append(entry);
+    beginInsertRows(QModelIndex(), m_rows.size(), m_rows.size());
+    m_rows.append({ entry, QTime::currentTime(), isFailure(entry) });
     endInsertRows();
+    if (m_logFile.isOpen()) {
+        m_logFile.write((lineText(m_rows.size() - 1) + QLatin1Char('\n')).toUtf8());
+        m_logFile.flush();
+    }
 }
 
 void SimulatorLogModel::clear()
 {
     beginResetModel();
-    m_entries.clear();
+    m_rows.clear();
     endResetModel();
 }
 
-QString SimulatorLogModel::cellText(const LogEntry &entry, int column) const
+QString SimulatorLogModel::lineText(int row) const
 {
+    QStringList cells;
+    for (int column = 0; column < ColumnCount; ++column)
+        cells << cellText(m_rows.at(row), column);
+    if (m_rows.at(row).failure)
+        cells << QStringLiteral("FAILED");
+    return cells.join(QLatin1Char('\t'));
+}
+
+bool SimulatorLogModel::save(const QString &fileName, QString *error) const
+{
+    QSaveFile file(fileName);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+        for (int row = 0; row < m_rows.size(); ++row)
+            file.write((lineText(row) + QLatin1Char('\n')).toUtf8());
+        if (file.commit())
+            return true;
+    }
+    *error = tr("Cannot write the log to %1: %2").arg(fileName, file.errorString());
+    return false;
+}
+
+bool SimulatorLogModel::setLogFile(const QString &fileName, QString *error)
+{
+    m_logFile.close();
+    m_logFile.setFileName(fileName);
+    if (!m_logFile.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+        *error = tr("Cannot write the log to %1: %2").arg(fileName, m_logFile.errorString());
+        return false;
+    }
+    for (int row = 0; row < m_rows.size(); ++row)
+        m_logFile.write((lineText(row) + QLatin1Char('\n')).toUtf8());
+    m_logFile.flush();
+    return true;
+}
+
+QString SimulatorLogModel::cellText(const Row &row, int column) const
+{
+    const LogEntry &entry = row.entry;
     const bool message = entry.kind == LogEntry::Message;
     switch (column) {
+    case TimeColumn:
+        return row.time.toString(QStringLiteral("HH:mm:ss.zzz"));
     case OperationColumn:
         return entry.operation;
     case TextColumn:

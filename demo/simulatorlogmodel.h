@@ -4,17 +4,23 @@
 #include <simulatedcontroller.h>
 
 #include <QAbstractTableModel>
+#include <QFile>
+#include <QTime>
 #include <QVector>
 
-// The simulated controller's exchanges as table rows, newest last. A long
-// session with a running target search logs several commands a second, so
-// the oldest rows are dropped once the table reaches its cap.
+// The simulated controller's exchanges as table rows, newest last, each with
+// the time it happened. A long session with a running target search logs
+// several commands a second, so the oldest rows are dropped once the table
+// reaches its cap; a log file keeps everything.
 class SimulatorLogModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    enum Column { OperationColumn, TextColumn, ReplyColumn, ResultColumn, ColumnCount };
+    enum Column { TimeColumn, OperationColumn, TextColumn, ReplyColumn, ResultColumn, ColumnCount };
+    enum Role { KindRole = Qt::UserRole, FailureRole };
+    // What the log can be filtered by.
+    enum Kind { Call, Message, Failure };
 
     explicit SimulatorLogModel(int maximumRows = 50000, QObject *parent = nullptr);
 
@@ -24,17 +30,31 @@ public:
     QVariant headerData(
         int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
-    // A failed operation, a time-out, or an error report to the message log.
+    // A failed operation, or an error report to the message log (every
+    // report there but the target search's progress notices).
     static bool isFailure(const sim::SimulatedController::LogEntry &entry);
 
     void append(const sim::SimulatedController::LogEntry &entry);
     void clear();
 
-private:
-    QString cellText(const sim::SimulatedController::LogEntry &entry, int column) const;
+    // One line per row: time, operation, text, reply, result, and "FAILED"
+    // where the row is marked.
+    QString lineText(int row) const;
+    bool save(const QString &fileName, QString *error) const;
+    // Writes every row so far to the file, then each new one as it comes.
+    bool setLogFile(const QString &fileName, QString *error);
 
-    QVector<sim::SimulatedController::LogEntry> m_entries;
+private:
+    struct Row {
+        sim::SimulatedController::LogEntry entry;
+        QTime time;
+        bool failure; // worked out once: the notice check is not cheap
+    };
+    QString cellText(const Row &row, int column) const;
+
+    QVector<Row> m_rows;
     int m_maximumRows;
+    QFile m_logFile;
 };
 
 #endif // SIMULATORLOGMODEL_H

@@ -28,6 +28,7 @@ public:
     static bool matches(const QString &pattern, const QString &command);
 
     void add(const Injection &injection) { m_injections.append(injection); }
+    const QList<Injection> &injections() const { return m_injections; }
     void clear() { m_injections.clear(); }
     void clearScenarioInjections();
     // Takes the injection for this command, if any, counting it down.

@@ -117,6 +117,7 @@ bool Scenario::once(const QString &directive, int line)
 void Scenario::parseDirective(const QString &directive, const QString &rawArgument, int number)
 {
     const QString argument = rawArgument.trimmed();
+    m_given << directive;
     if (directive == QLatin1String("@backend-version")
         || directive == QLatin1String("@system-version")) {
         BackendVersions::Version version;

@@ -40,6 +40,8 @@ public:
     int searchDuration() const { return m_searchDuration; } // 0: not given
     const QList<FaultInjector::Injection> &injections() const { return m_injections; }
     const QStringList &errors() const { return m_errors; }
+    // Whether the text gave the directive ("@present", ...) at all.
+    bool has(const QString &directive) const { return m_given.contains(directive); }
 
     // Reads "MAJOR.MINOR.PATCH"; the patch may be negative (pre-releases).
     static bool parseVersion(const QString &text, BackendVersions::Version *version);
@@ -59,6 +61,7 @@ private:
     QList<FaultInjector::Injection> m_injections;
     QHash<QString, int> m_directiveLines;
     QStringList m_errors;
+    QStringList m_given;
 };
 
 } // namespace sim

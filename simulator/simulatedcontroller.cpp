@@ -593,4 +593,61 @@ void SimulatedController::unregisterReceiver(const char *name, MessageReceiver *
     d->receivers.removeAll({ receiverName, receiver, nullptr, false });
 }
 
+bool SimulatedController::takeScenarioLine(const QString &line, QString *error)
+{
+    Scenario scenario;
+    if (!scenario.parse(line, QStringLiteral("line"))) {
+        if (error)
+            *error = scenario.errors().first().section(QLatin1String(": "), 1);
+        return false;
+    }
+    const QMap<QString, QString> &parameters = scenario.parameters();
+    for (auto it = parameters.cbegin(); it != parameters.cend(); ++it)
+        d->table.set(it.key(), it.value());
+    const BackendVersions &versions = scenario.versions();
+    if (scenario.has(QStringLiteral("@backend-version")))
+        d->versions.backendVersion = versions.backendVersion;
+    if (scenario.has(QStringLiteral("@system-version")))
+        d->versions.systemVersion = versions.systemVersion;
+    if (scenario.has(QStringLiteral("@system-type")))
+        d->versions.systemType = versions.systemType;
+    if (scenario.has(QStringLiteral("@present"))
+        || scenario.has(QStringLiteral("@search-duration")))
+        d->search.configure(scenario.has(QStringLiteral("@present")) ? scenario.presentTargets()
+                                                                     : d->search.presentTargets(),
+            scenario.searchDuration() > 0 ? scenario.searchDuration() : d->search.duration());
+    for (const FaultInjector::Injection &injection : scenario.injections())
+        d->injector.add(injection);
+    return true;
+}
+
+QString SimulatedController::scenarioText() const
+{
+    d->catchUp();
+    const auto version = [](const BackendVersions::Version &v) {
+        return QStringLiteral("%1.%2.%3").arg(v.major).arg(v.minor).arg(v.patch);
+    };
+    QStringList lines { QStringLiteral(
+                            "# The simulated controller's state, saved by the demo host"),
+        QStringLiteral("@backend-version ") + version(d->versions.backendVersion),
+        QStringLiteral("@system-version ") + version(d->versions.systemVersion) };
+    if (!d->versions.systemType.isEmpty())
+        lines << QStringLiteral("@system-type ") + d->versions.systemType;
+    if (!d->search.presentTargets().isEmpty())
+        lines << QStringLiteral("@present ") + d->search.presentTargets().join(QLatin1Char(' '));
+    lines << QStringLiteral("@search-duration %1").arg(d->search.duration());
+    for (const FaultInjector::Injection &injection : d->injector.injections()) {
+        if (!injection.fromScenario)
+            continue;
+        lines << (injection.fails
+                ? QStringLiteral("@fail ") + injection.pattern
+                : QStringLiteral("@reply %1 = %2")
+                      .arg(injection.pattern, QString::fromLatin1(injection.reply)));
+    }
+    const QMap<QString, QString> &values = d->table.values();
+    for (auto it = values.cbegin(); it != values.cend(); ++it)
+        lines << it.key() + QStringLiteral(" = ") + it.value();
+    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+}
+
 } // namespace sim

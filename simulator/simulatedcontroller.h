@@ -61,6 +61,14 @@ public:
 
     BackendVersions &backendVersions();
 
+    // One scenario line taken on top of the current state, as an operator
+    // would type it: "PATH = VALUE" sets a parameter, a directive applies.
+    // Returns false with the reason in error for a bad line.
+    bool takeScenarioLine(const QString &line, QString *error = nullptr);
+    // The current state as a scenario that loads back to the same state
+    // (the search in progress and injections made through the API aside).
+    QString scenarioText() const;
+
     // Direct access to the parameter table (no log, no injected failures).
     QString value(const QString &path) const;
     bool contains(const QString &path) const;

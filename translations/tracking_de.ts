@@ -1,4 +1,5 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
     <name>AngleTableWidget</name>
@@ -12,15 +13,15 @@
     </message>
     <message>
         <source>rx</source>
-        <translation type="unfinished" />
+        <translation>rx</translation>
     </message>
     <message>
         <source>ry</source>
-        <translation type="unfinished" />
+        <translation>ry</translation>
     </message>
     <message>
         <source>rz</source>
-        <translation type="unfinished" />
+        <translation>rz</translation>
     </message>
 </context>
 <context>
@@ -55,11 +56,11 @@
     </message>
     <message>
         <source>&amp;Custom Calibration</source>
-        <translation>&amp;Eigene Kalibrierung</translation>
+        <translation>Eigene &amp;Kalibrierung</translation>
     </message>
     <message>
         <source>Alt+C</source>
-        <translation>Alt+E</translation>
+        <translation>Alt+K</translation>
     </message>
     <message>
         <source>Calibrate the selected hybrid body</source>
@@ -90,50 +91,50 @@
     <name>BodyAdministrationDlg</name>
     <message>
         <source>Unable to close dialog during calibration is running</source>
-        <translation type="unfinished" />
+        <translation>Der Dialog kann nicht geschlossen werden, solange eine Kalibrierung läuft</translation>
     </message>
 </context>
 <context>
     <name>BodyLoader</name>
     <message>
         <source>Error: Unable to get number of %1 bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Anzahl der %1-Körper kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get description of bodytype %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Beschreibung des Körpertyps %1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get availability of filter6d for bodytype %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Verfügbarkeit des 6DOF-Filters für Körpertyp %1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get description of body %1 b%2 </source>
-        <translation type="unfinished" />
+        <translation>Fehler: Beschreibung von Körper %1 b%2 kann nicht gelesen werden </translation>
     </message>
     <message>
         <source>Error: Unable to get targetlib name of body %1 b%2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Name in der Targetbibliothek von Körper %1 b%2 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get activeness of body %1 b%2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Aktivierung von Körper %1 b%2 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get calibration state of body %1 b%2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Kalibrierzustand von Körper %1 b%2 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get recalibrated state of body %1 b%2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Nachkalibrierzustand von Körper %1 b%2 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get inertial sensor of body %1 b%2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Inertialsensor von Körper %1 b%2 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get handeye status of sensor %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Hand-Auge-Status von Sensor %1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>not calibrated</source>
@@ -165,7 +166,7 @@
     </message>
     <message>
         <source>Error: Unable to info body reference</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Referenzkörper kann nicht gelesen werden</translation>
     </message>
 </context>
 <context>
@@ -176,28 +177,29 @@
     </message>
     <message>
         <source>Error: Unable to set activeness of body %1 b%2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Aktivierung von Körper %1 b%2 kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to set description of body %1 b%2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Beschreibung von Körper %1 b%2 kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>A de-activated body cannot be set as reference.
 Please activate this body before.</source>
-        <translation type="unfinished" />
+        <translation>Ein deaktivierter Körper kann nicht Referenz werden.
+Bitte aktivieren Sie den Körper zuerst.</translation>
     </message>
     <message>
         <source>Error: Unable to set body %1 b%2 as reference body</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Körper %1 b%2 kann nicht als Referenzkörper gesetzt werden</translation>
     </message>
     <message>
         <source>Unable to information of reference body</source>
-        <translation type="unfinished" />
+        <translation>Referenzkörper kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to de-activate the reference body</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Der Referenzkörper kann nicht deaktiviert werden</translation>
     </message>
     <message>
         <source>Unknown reset of %1 %2!</source>
@@ -206,11 +208,12 @@ Please activate this body before.</source>
     <message>
         <source>Reset %1 %2
 to Target-Library geometry?</source>
-        <translation type="unfinished" />
+        <translation>%1 %2 auf die Geometrie
+der Targetbibliothek zurücksetzen?</translation>
     </message>
     <message>
         <source>Error: Unable to reset body from target library</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Körper kann nicht aus der Targetbibliothek zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Reset of %1 %2 failed!</source>
@@ -218,16 +221,17 @@ to Target-Library geometry?</source>
     </message>
     <message>
         <source>Unable to get storage info from sensor</source>
-        <translation type="unfinished" />
+        <translation>Speicherinformation des Sensors kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Reset %1 %2
 to sensor stored values?</source>
-        <translation type="unfinished" />
+        <translation>%1 %2 auf die im Sensor
+gespeicherten Werte zurücksetzen?</translation>
     </message>
     <message>
         <source>Unable to get info about hand eye calibration from sensor</source>
-        <translation type="unfinished" />
+        <translation>Hand-Auge-Kalibrierung des Sensors kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Reset %1 %2?</source>
@@ -236,37 +240,40 @@ to sensor stored values?</source>
     <message>
         <source>Reset %1 %2?
 Hand eye calibration will be deleted!</source>
-        <translation type="unfinished" />
+        <translation>%1 %2 zurücksetzen?
+Die Hand-Auge-Kalibrierung wird gelöscht!</translation>
     </message>
     <message>
         <source>Could not get warmup status</source>
-        <translation type="unfinished" />
+        <translation>Aufwärmstatus kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Could not stop warmup of sensors</source>
-        <translation type="unfinished" />
+        <translation>Aufwärmen der Sensoren kann nicht angehalten werden</translation>
     </message>
     <message>
         <source>Unable to reset sensor hand eye calibration</source>
-        <translation type="unfinished" />
+        <translation>Hand-Auge-Kalibrierung des Sensors kann nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Could not start warmup of sensors</source>
-        <translation type="unfinished" />
+        <translation>Aufwärmen der Sensoren kann nicht gestartet werden</translation>
     </message>
     <message>
         <source>Error: Unable to reset body to sensor stored values</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Körper kann nicht auf die im Sensor gespeicherten Werte zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Delete geometry of %1 %2?
 If yes, the assignment as reference to other bodies will be deleted.</source>
-        <translation type="unfinished" />
+        <translation>Geometrie von %1 %2 löschen?
+Dann wird auch die Zuordnung als Referenz anderer Körper gelöscht.</translation>
     </message>
     <message>
         <source>Delete assignment of sensor %1 and 
 delete geometry of %2 %3?</source>
-        <translation type="unfinished" />
+        <translation>Zuordnung von Sensor %1 und 
+Geometrie von %2 %3 löschen?</translation>
     </message>
     <message>
         <source>Delete geometry of %1 %2?</source>
@@ -278,79 +285,81 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Unable to reset reference body</source>
-        <translation type="unfinished" />
+        <translation>Referenzkörper kann nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to get info preset available</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Verfügbarkeit der Filtervorgabe kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Unable to reset filter6d of %1 %2</source>
-        <translation type="unfinished" />
+        <translation>6DOF-Filter von %1 %2 kann nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Unable to reset sensor of %1 %2</source>
-        <translation type="unfinished" />
+        <translation>Sensor von %1 %2 kann nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Unable to reset markers of %1 %2</source>
-        <translation type="unfinished" />
+        <translation>Marker von %1 %2 können nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Unable to reset description of %1 %2</source>
-        <translation type="unfinished" />
+        <translation>Beschreibung von %1 %2 kann nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to switch bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Körper können nicht getauscht werden</translation>
     </message>
     <message>
         <source>Switching %1 %2 and %3 failed!</source>
-        <translation type="unfinished" />
+        <translation>Tauschen von %1 %2 und %3 fehlgeschlagen!</translation>
     </message>
     <message>
         <source>Unable to get info targetlib ID of body</source>
-        <translation type="unfinished" />
+        <translation>Targetbibliotheks-ID des Körpers kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Unable to reset markers of target %1 %2</source>
-        <translation type="unfinished" />
+        <translation>Marker von Target %1 %2 können nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Unable to reset description of target %1 %1</source>
-        <translation type="unfinished" />
+        <translation>Beschreibung von Target %1 %1 kann nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to calibrate body from target library</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Körper kann nicht aus der Targetbibliothek kalibriert werden</translation>
     </message>
 </context>
 <context>
     <name>BodyTableFiller</name>
     <message>
         <source>Error: Unable to get info inertial tracking available</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Verfügbarkeit des Inertialtrackings kann nicht gelesen werden</translation>
     </message>
 </context>
 <context>
     <name>BodyTypeAdministrationTab</name>
     <message>
         <source>Error: Unable to get info inertial tracking available</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Verfügbarkeit des Inertialtrackings kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get info inertial sensor is present</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Vorhandensein des Inertialsensors kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>VELORA4</source>
-        <translation type="unfinished" />
+        <translation>VELORA4</translation>
     </message>
     <message>
         <source>Decreasing the number of standard bodies will disable the reference!
 
 </source>
-        <translation type="unfinished" />
+        <translation>Wenn die Anzahl der Standardkörper sinkt, wird die Referenz abgeschaltet!
+
+</translation>
     </message>
     <message>
         <source>Continue?</source>
@@ -358,7 +367,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Unable to get info targetlib ID of body</source>
-        <translation type="unfinished" />
+        <translation>Targetbibliotheks-ID des Körpers kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -385,7 +394,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Select body to adjust the 6DOF filter</source>
-        <translation type="unfinished" />
+        <translation>Körper wählen, dessen 6DOF-Filter eingestellt wird</translation>
     </message>
     <message>
         <source>&amp;active</source>
@@ -396,8 +405,8 @@ delete geometry of %2 %3?</source>
         <translation>&amp;Vorgabe</translation>
     </message>
     <message>
-        <source>&lt;html&gt;Choose a 6DOF filter preset, or "custom" for your own settings.&lt;br&gt;A preset is a pre-definded set of strength, prediction and mode.&lt;/html&gt;</source>
-        <translation type="unfinished" />
+        <source>&lt;html&gt;Choose a 6DOF filter preset, or &quot;custom&quot; for your own settings.&lt;br&gt;A preset is a pre-definded set of strength, prediction and mode.&lt;/html&gt;</source>
+        <translation>&lt;html&gt;Eine 6DOF-Filtervorgabe wählen oder „eigene“ für eigene Einstellungen.&lt;br&gt;Eine Vorgabe ist ein festgelegter Satz aus Stärke, Vorhersage und Modus.&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&amp;strength</source>
@@ -405,11 +414,11 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Adjust 6DOF filter strength. Min. = 0.01, max. = 0.99</source>
-        <translation type="unfinished" />
+        <translation>Stärke des 6DOF-Filters einstellen. Min. = 0,01, max. = 0,99</translation>
     </message>
     <message>
         <source>pre&amp;diction [ms]</source>
-        <translation>&amp;Vorhersage [ms]</translation>
+        <translation>Vo&amp;rhersage [ms]</translation>
     </message>
     <message>
         <source>&amp;mode</source>
@@ -417,7 +426,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Adjust 6DOF filter mode</source>
-        <translation type="unfinished" />
+        <translation>Modus des 6DOF-Filters einstellen</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -433,106 +442,106 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Error: Unable to get number of filter 6d presets</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Anzahl der 6DOF-Filtervorgaben kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d preset id</source>
-        <translation type="unfinished" />
+        <translation>Fehler: ID der 6DOF-Filtervorgabe kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d preset description</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Beschreibung der 6DOF-Filtervorgabe kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d preset id available</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Verfügbarkeit der 6DOF-Filtervorgabe kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get number of filter 6d modes</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Anzahl der 6DOF-Filtermodi kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d mode id</source>
-        <translation type="unfinished" />
+        <translation>Fehler: ID des 6DOF-Filtermodus kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d mode description</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Beschreibung des 6DOF-Filtermodus kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d mode id available</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Verfügbarkeit des 6DOF-Filtermodus kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>6DOF filter for standard bodies not available</source>
-        <translation type="unfinished" />
+        <translation>6DOF-Filter für Standardkörper nicht verfügbar</translation>
     </message>
     <message>
         <source>6DOF filter for gripwands not available</source>
-        <translation type="unfinished" />
+        <translation>6DOF-Filter für Gripwands nicht verfügbar</translation>
     </message>
     <message>
         <source>6DOF filter not available</source>
-        <translation type="unfinished" />
+        <translation>6DOF-Filter nicht verfügbar</translation>
     </message>
     <message>
         <source>standard body %1</source>
-        <translation type="unfinished" />
+        <translation>Standardkörper %1</translation>
     </message>
     <message>
         <source>Gripwand body %1</source>
-        <translation type="unfinished" />
+        <translation>Gripwand-Körper %1</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d preset for body %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: 6DOF-Filtervorgabe von Körper %1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d strength for body %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: 6DOF-Filterstärke von Körper %1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d prediction for body %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: 6DOF-Filtervorhersage von Körper %1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get filter 6d mode for body %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: 6DOF-Filtermodus von Körper %1 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to activate/deactivate filter 6d for body %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: 6DOF-Filter von Körper %1 kann nicht ein- oder ausgeschaltet werden</translation>
     </message>
     <message>
         <source>Error: Unable to set filter 6d preset for body %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: 6DOF-Filtervorgabe von Körper %1 kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to set filter 6d strength for body %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: 6DOF-Filterstärke von Körper %1 kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to set filter 6d prediction for body %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: 6DOF-Filtervorhersage von Körper %1 kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to set filter 6d mode for body %1</source>
-        <translation type="unfinished" />
+        <translation>Fehler: 6DOF-Filtermodus von Körper %1 kann nicht gesetzt werden</translation>
     </message>
 </context>
 <context>
     <name>FilterHelpClass</name>
     <message>
         <source>Help Filter</source>
-        <translation type="unfinished" />
+        <translation>Hilfe Filter</translation>
     </message>
     <message>
         <source>Help for filter settings</source>
-        <translation type="unfinished" />
+        <translation>Hilfe zu den Filtereinstellungen</translation>
     </message>
     <message>
-        <source>&lt;html&gt;&lt;body&gt;&lt;p style="margin-top:10px"&gt;&lt;b&gt;Strength&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Low values mean less filtering: the output reacts faster but jitters more.&lt;br/&gt;High values mean stronger filtering: the output is smoother but reacts more slowly.&lt;/p&gt;&lt;p style="margin-top:10px"&gt;&lt;b&gt;Prediction&lt;/b&gt;&lt;/p&gt;&lt;p&gt;The output is predicted the given time ahead to make up for the latency of tracking and rendering.&lt;br/&gt;Too high positive values can increase jitter and reduce precision.&lt;br/&gt;Negative values smooth the output at the cost of higher latency.&lt;/p&gt;&lt;p style="margin-top:10px"&gt;&lt;b&gt;Mode&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Specifies the elementary behavior of the filter. Several option are available:&lt;/p&gt;&lt;table cellspacing="0" cellpadding="3"&gt;&lt;tr&gt;&lt;td valign="top" style="padding-right:12px"&gt;&lt;b&gt;Adaptive fast&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Adapts the filter to the observed motion.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Moving targets that change between fast and slow motions, such as Gripwands.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign="top" style="padding-right:12px"&gt;&lt;b&gt;Adaptive slow&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Adapts the filter to the observed motion, with stronger filtering of fast motions.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Targets with slow and medium motions.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign="top" style="padding-right:12px"&gt;&lt;b&gt;Fast&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filtering for fast motions.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Targets that need a quick reaction, such as head-mounted displays.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign="top" style="padding-right:12px"&gt;&lt;b&gt;Slow&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filtering for medium motions.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Targets that need a quick reaction with slow motions.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign="top" style="padding-right:12px"&gt;&lt;b&gt;Static&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filtering for targets that do not move.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Targets known not to move at all.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign="top" style="padding-right:12px"&gt;&lt;b&gt;Reference target&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filtering for static targets that detects occasional motions by itself.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Generally static objects that are moved now and then, such as room references.&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation type="unfinished" />
+        <source>&lt;html&gt;&lt;body&gt;&lt;p style=&quot;margin-top:10px&quot;&gt;&lt;b&gt;Strength&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Low values mean less filtering: the output reacts faster but jitters more.&lt;br/&gt;High values mean stronger filtering: the output is smoother but reacts more slowly.&lt;/p&gt;&lt;p style=&quot;margin-top:10px&quot;&gt;&lt;b&gt;Prediction&lt;/b&gt;&lt;/p&gt;&lt;p&gt;The output is predicted the given time ahead to make up for the latency of tracking and rendering.&lt;br/&gt;Too high positive values can increase jitter and reduce precision.&lt;br/&gt;Negative values smooth the output at the cost of higher latency.&lt;/p&gt;&lt;p style=&quot;margin-top:10px&quot;&gt;&lt;b&gt;Mode&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Specifies the elementary behavior of the filter. Several option are available:&lt;/p&gt;&lt;table cellspacing=&quot;0&quot; cellpadding=&quot;3&quot;&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Adaptive fast&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Adapts the filter to the observed motion.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Moving targets that change between fast and slow motions, such as Gripwands.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Adaptive slow&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Adapts the filter to the observed motion, with stronger filtering of fast motions.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Targets with slow and medium motions.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Fast&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filtering for fast motions.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Targets that need a quick reaction, such as head-mounted displays.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Slow&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filtering for medium motions.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Targets that need a quick reaction with slow motions.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Static&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filtering for targets that do not move.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Targets known not to move at all.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Reference target&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filtering for static targets that detects occasional motions by itself.&lt;br/&gt;&lt;i&gt;Use for:&lt;/i&gt; Generally static objects that are moved now and then, such as room references.&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;body&gt;&lt;p style=&quot;margin-top:10px&quot;&gt;&lt;b&gt;Stärke&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Kleine Werte bedeuten wenig Filterung: die Ausgabe reagiert schneller, zittert aber mehr.&lt;br/&gt;Große Werte bedeuten starke Filterung: die Ausgabe ist ruhiger, reagiert aber langsamer.&lt;/p&gt;&lt;p style=&quot;margin-top:10px&quot;&gt;&lt;b&gt;Vorhersage&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Die Ausgabe wird um die angegebene Zeit vorausberechnet, um die Latenz von Tracking und Darstellung auszugleichen.&lt;br/&gt;Zu große positive Werte können das Zittern verstärken und die Genauigkeit verringern.&lt;br/&gt;Negative Werte glätten die Ausgabe auf Kosten höherer Latenz.&lt;/p&gt;&lt;p style=&quot;margin-top:10px&quot;&gt;&lt;b&gt;Modus&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Legt das grundlegende Verhalten des Filters fest. Es gibt mehrere Möglichkeiten:&lt;/p&gt;&lt;table cellspacing=&quot;0&quot; cellpadding=&quot;3&quot;&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Adaptiv schnell&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Passt den Filter der beobachteten Bewegung an.&lt;br/&gt;&lt;i&gt;Für:&lt;/i&gt; bewegte Targets, die zwischen schnellen und langsamen Bewegungen wechseln, etwa Gripwands.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Adaptiv langsam&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Passt den Filter der beobachteten Bewegung an, mit stärkerer Filterung schneller Bewegungen.&lt;br/&gt;&lt;i&gt;Für:&lt;/i&gt; Targets mit langsamen und mittleren Bewegungen.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Schnell&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filterung für schnelle Bewegungen.&lt;br/&gt;&lt;i&gt;Für:&lt;/i&gt; Targets, die schnell reagieren müssen, etwa Head-Mounted Displays.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Langsam&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filterung für mittlere Bewegungen.&lt;br/&gt;&lt;i&gt;Für:&lt;/i&gt; Targets, die bei langsamen Bewegungen schnell reagieren müssen.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Statisch&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filterung für Targets, die sich nicht bewegen.&lt;br/&gt;&lt;i&gt;Für:&lt;/i&gt; Targets, die sich sicher gar nicht bewegen.&lt;/td&gt;&lt;/tr&gt;&lt;tr&gt;&lt;td valign=&quot;top&quot; style=&quot;padding-right:12px&quot;&gt;&lt;b&gt;Referenztarget&lt;/b&gt;&lt;/td&gt;&lt;td&gt;Filterung für ruhende Targets, die gelegentliche Bewegungen selbst erkennt.&lt;br/&gt;&lt;i&gt;Für:&lt;/i&gt; meist ruhende Objekte, die ab und zu bewegt werden, etwa Raumreferenzen.&lt;/td&gt;&lt;/tr&gt;&lt;/table&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
@@ -575,19 +584,19 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Fingertracking is not available!&lt;/font&gt;&lt;/b&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;b&gt;&lt;font color=red&gt;Fingertracking ist nicht verfügbar!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Error: Unable to get max number of %1 hand bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Höchstzahl der %1-Handkörper kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to set number of %1 hand bodies to %2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Anzahl der %1-Handkörper kann nicht auf %2 gesetzt werden</translation>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Max. number of Hands is reached!&lt;/font&gt;&lt;/b&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;b&gt;&lt;font color=red&gt;Höchstzahl der Hände ist erreicht!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
 </context>
 <context>
@@ -598,7 +607,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Fingertracking is not available!&lt;/font&gt;&lt;/b&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;b&gt;&lt;font color=red&gt;Fingertracking ist nicht verfügbar!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
     <message>
         <source>&amp;number of hands</source>
@@ -606,11 +615,11 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Adjust number of hands</source>
-        <translation type="unfinished" />
+        <translation>Anzahl der Hände einstellen</translation>
     </message>
     <message>
         <source>Available hands</source>
-        <translation type="unfinished" />
+        <translation>Verfügbare Hände</translation>
     </message>
     <message>
         <source>Open custom body calibration</source>
@@ -618,11 +627,11 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>&amp;Custom Calibration</source>
-        <translation>&amp;Eigene Kalibrierung</translation>
+        <translation>Eigene &amp;Kalibrierung</translation>
     </message>
     <message>
         <source>Assign hand target from target library to selected hand</source>
-        <translation type="unfinished" />
+        <translation>Hand-Target der Targetbibliothek der gewählten Hand zuweisen</translation>
     </message>
     <message>
         <source>&lt;&lt; S&amp;elect</source>
@@ -630,7 +639,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Remove target from selected hand</source>
-        <translation type="unfinished" />
+        <translation>Target von der gewählten Hand entfernen</translation>
     </message>
     <message>
         <source>&gt;&gt; &amp;Deselect</source>
@@ -638,7 +647,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Available hand targets from target library</source>
-        <translation type="unfinished" />
+        <translation>Verfügbare Hand-Targets der Targetbibliothek</translation>
     </message>
     <message>
         <source>Result of search</source>
@@ -654,11 +663,11 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Start search for hand targets in tracking volume</source>
-        <translation type="unfinished" />
+        <translation>Suche nach Hand-Targets im Trackingvolumen starten</translation>
     </message>
     <message>
         <source>S&amp;tart search</source>
-        <translation>Suche &amp;starten</translation>
+        <translation>Suche s&amp;tarten</translation>
     </message>
     <message>
         <source>Stop search</source>
@@ -666,22 +675,22 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Sto&amp;p</source>
-        <translation>An&amp;halten</translation>
+        <translation>Sto&amp;pp</translation>
     </message>
 </context>
 <context>
     <name>FixedAngleDialog</name>
     <message>
         <source>Fixed Angle Settings</source>
-        <translation type="unfinished" />
+        <translation>Einstellungen feste Winkel</translation>
     </message>
     <message>
         <source>Fixed angle settings: Enable and change fixed angles</source>
-        <translation type="unfinished" />
+        <translation>Feste Winkel: einschalten und ändern</translation>
     </message>
     <message>
         <source>Help for fixed angle setting</source>
-        <translation type="unfinished" />
+        <translation>Hilfe zu festen Winkeln</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -689,11 +698,11 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Alt+H</source>
-        <translation type="unfinished" />
+        <translation>Alt+H</translation>
     </message>
     <message>
         <source>Accept changes and close dialog</source>
-        <translation type="unfinished" />
+        <translation>Änderungen übernehmen und Dialog schließen</translation>
     </message>
     <message>
         <source>OK</source>
@@ -701,7 +710,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Discard changes and close dialog</source>
-        <translation type="unfinished" />
+        <translation>Änderungen verwerfen und Dialog schließen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -712,58 +721,58 @@ delete geometry of %2 %3?</source>
     <name>FixedAngleDlg</name>
     <message>
         <source>Error: Unable to check number of standard bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Anzahl der Standardkörper kann nicht geprüft werden</translation>
     </message>
     <message>
         <source>Error: Unable to check name of standard body</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Name des Standardkörpers kann nicht geprüft werden</translation>
     </message>
     <message>
         <source>Error: Unable to check the calibration status of standard body</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Kalibrierzustand des Standardkörpers kann nicht geprüft werden</translation>
     </message>
     <message>
         <source>Error: Unable to check target type</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Targettyp kann nicht geprüft werden</translation>
     </message>
     <message>
         <source>Error: Unable to check fixed angle of standard body</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Fester Winkel des Standardkörpers kann nicht geprüft werden</translation>
     </message>
     <message>
         <source>Fixed Angle</source>
-        <translation type="unfinished" />
+        <translation>Fester Winkel</translation>
     </message>
     <message>
         <source>There is invalid data.</source>
-        <translation type="unfinished" />
+        <translation>Es gibt ungültige Werte.</translation>
     </message>
 </context>
 <context>
     <name>FixedAngleHelp</name>
     <message>
         <source>Fixed Angle Settings Help</source>
-        <translation type="unfinished" />
+        <translation>Hilfe zu festen Winkeln</translation>
     </message>
     <message>
         <source>Set fixed angle for bodies:</source>
-        <translation type="unfinished" />
+        <translation>Feste Winkel für Körper setzen:</translation>
     </message>
     <message>
         <source>Check specific axes and adjust the angle values (+/- 20°)</source>
-        <translation type="unfinished" />
+        <translation>Einzelne Achsen ankreuzen und die Winkel einstellen (+/- 20°)</translation>
     </message>
     <message>
         <source>Setting is impossible for gray uncalibrated bodies.</source>
-        <translation type="unfinished" />
+        <translation>Für graue, unkalibrierte Körper ist keine Einstellung möglich.</translation>
     </message>
     <message>
         <source>Example:</source>
-        <translation type="unfinished" />
+        <translation>Beispiel:</translation>
     </message>
     <message>
         <source>Result in data display:</source>
-        <translation type="unfinished" />
+        <translation>Ergebnis in der Datenanzeige:</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
@@ -771,7 +780,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Alt+X</source>
-        <translation type="unfinished" />
+        <translation>Alt+B</translation>
     </message>
 </context>
 <context>
@@ -822,11 +831,11 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Error: Unable to get max number of %1 bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Höchstzahl der %1-Körper kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to set number of %1 bodies to %2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Anzahl der %1-Körper kann nicht auf %2 gesetzt werden</translation>
     </message>
     <message>
         <source>unknown</source>
@@ -834,35 +843,35 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Error: Unable to get model description of vendor %1 model %2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Modellbeschreibung von Hersteller %1, Modell %2 kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get info whether multiuser gripwand is available</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Verfügbarkeit des Mehrbenutzerbetriebs der Gripwands kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get info multiuser gripwand with head available</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Verfügbarkeit des Mehrbenutzerbetriebs mit Kopf-Target kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get info whether multiuser gripwand is activated</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Aktivierung des Mehrbenutzerbetriebs der Gripwands kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Max. number of gripwands is reached!&lt;/font&gt;&lt;/b&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;b&gt;&lt;font color=red&gt;Höchstzahl der Gripwands ist erreicht!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Error: Unable to get info whether multiuser gripwand with head is activated</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Aktivierung des Mehrbenutzerbetriebs mit Kopf-Target kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get global filter6d status of Gripwand bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Globaler 6DOF-Filterstatus der Gripwand-Körper kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to set global filter6d status of Gripwand bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Globaler 6DOF-Filterstatus der Gripwand-Körper kann nicht gesetzt werden</translation>
     </message>
 </context>
 <context>
@@ -873,7 +882,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Adjust number of gripwands</source>
-        <translation type="unfinished" />
+        <translation>Anzahl der Gripwands einstellen</translation>
     </message>
     <message>
         <source>&amp;number of gripwands</source>
@@ -881,7 +890,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Available gripwands</source>
-        <translation type="unfinished" />
+        <translation>Verfügbare Gripwands</translation>
     </message>
     <message>
         <source>Open filter dialog</source>
@@ -897,11 +906,11 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>&amp;Custom calibration</source>
-        <translation>&amp;Eigene Kalibrierung</translation>
+        <translation>Eigene &amp;Kalibrierung</translation>
     </message>
     <message>
         <source>Assign gripwand target to selected gripwand</source>
-        <translation type="unfinished" />
+        <translation>Gripwand-Target der gewählten Gripwand zuweisen</translation>
     </message>
     <message>
         <source>&lt;&lt; S&amp;elect</source>
@@ -909,7 +918,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Remove gripwand target from selected gripwand</source>
-        <translation type="unfinished" />
+        <translation>Gripwand-Target von der gewählten Gripwand entfernen</translation>
     </message>
     <message>
         <source>&gt;&gt; &amp;Deselect</source>
@@ -917,7 +926,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Available gripwand targets from target library</source>
-        <translation type="unfinished" />
+        <translation>Verfügbare Gripwand-Targets der Targetbibliothek</translation>
     </message>
     <message>
         <source>Result of search</source>
@@ -933,11 +942,11 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Start search for gripwand targets in tracking volume</source>
-        <translation type="unfinished" />
+        <translation>Suche nach Gripwand-Targets im Trackingvolumen starten</translation>
     </message>
     <message>
         <source>S&amp;tart search</source>
-        <translation>Suche &amp;starten</translation>
+        <translation>Suche s&amp;tarten</translation>
     </message>
     <message>
         <source>Stop search</source>
@@ -945,7 +954,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Sto&amp;p</source>
-        <translation>An&amp;halten</translation>
+        <translation>Sto&amp;pp</translation>
     </message>
     <message>
         <source>MultiUser head target:</source>
@@ -953,7 +962,7 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Available gripwand MultiUser head targets</source>
-        <translation type="unfinished" />
+        <translation>Verfügbare Kopf-Targets der Gripwands im Mehrbenutzerbetrieb</translation>
     </message>
 </context>
 <context>
@@ -996,23 +1005,23 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Measurement Tool is not available!&lt;/font&gt;&lt;/b&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;b&gt;&lt;font color=red&gt;Messwerkzeug ist nicht verfügbar!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Error: Unable to get max number of %1 bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Höchstzahl der %1-Körper kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to set number of %1 bodies to %2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Anzahl der %1-Körper kann nicht auf %2 gesetzt werden</translation>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Max. number of Measurement Tools is reached!&lt;/font&gt;&lt;/b&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;b&gt;&lt;font color=red&gt;Höchstzahl der Messwerkzeuge ist erreicht!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Max. number of Measurement references is reached!&lt;/font&gt;&lt;/b&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;b&gt;&lt;font color=red&gt;Höchstzahl der Messreferenzen ist erreicht!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -1024,37 +1033,39 @@ delete geometry of %2 %3?</source>
     </message>
     <message>
         <source>Delete Measurement Tool reference body %1?</source>
-        <translation type="unfinished" />
+        <translation>Referenzkörper %1 des Messwerkzeugs löschen?</translation>
     </message>
     <message>
         <source>Delete Measurement Tool reference body %1?
 If yes, the assignment to the Measurement Tool will be deleted.</source>
-        <translation type="unfinished" />
+        <translation>Referenzkörper %1 des Messwerkzeugs löschen?
+Dann wird auch die Zuordnung zum Messwerkzeug gelöscht.</translation>
     </message>
     <message>
         <source>Unable to reset description of %1 %2</source>
-        <translation type="unfinished" />
+        <translation>Beschreibung von %1 %2 kann nicht zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to set ref. body</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Referenzkörper kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>Delete body %1 failed</source>
-        <translation type="unfinished" />
+        <translation>Löschen von Körper %1 fehlgeschlagen</translation>
     </message>
     <message>
         <source>After deactivating the reference,
 the corresponding Measurement Tool will not be tracked.</source>
-        <translation type="unfinished" />
+        <translation>Nach dem Deaktivieren der Referenz
+wird das zugehörige Messwerkzeug nicht mehr getrackt.</translation>
     </message>
     <message>
         <source>This target is already calibrated as standard target ID %1.</source>
-        <translation type="unfinished" />
+        <translation>Dieses Target ist bereits als Standardtarget ID %1 kalibriert.</translation>
     </message>
     <message>
         <source>Delete the standard target ID %1?</source>
-        <translation type="unfinished" />
+        <translation>Standardtarget ID %1 löschen?</translation>
     </message>
 </context>
 <context>
@@ -1065,11 +1076,11 @@ the corresponding Measurement Tool will not be tracked.</source>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Measurement Tool is not available!&lt;/font&gt;&lt;/b&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;b&gt;&lt;font color=red&gt;Messwerkzeug ist nicht verfügbar!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Adjust number of Measurement Tools</source>
-        <translation type="unfinished" />
+        <translation>Anzahl der Messwerkzeuge einstellen</translation>
     </message>
     <message>
         <source>&amp;number of Measurement Tools</source>
@@ -1077,11 +1088,11 @@ the corresponding Measurement Tool will not be tracked.</source>
     </message>
     <message>
         <source>Available Measurement Tools</source>
-        <translation type="unfinished" />
+        <translation>Verfügbare Messwerkzeuge</translation>
     </message>
     <message>
         <source>Adjust number of Measurement Tool references</source>
-        <translation type="unfinished" />
+        <translation>Anzahl der Messwerkzeug-Referenzen einstellen</translation>
     </message>
     <message>
         <source>number of &amp;references</source>
@@ -1089,11 +1100,11 @@ the corresponding Measurement Tool will not be tracked.</source>
     </message>
     <message>
         <source>Available Measurement Tool references</source>
-        <translation type="unfinished" />
+        <translation>Verfügbare Messwerkzeug-Referenzen</translation>
     </message>
     <message>
         <source>Assign target from targetlibrary to selected Measurement Tool reference</source>
-        <translation type="unfinished" />
+        <translation>Target der Targetbibliothek der gewählten Messwerkzeug-Referenz zuweisen</translation>
     </message>
     <message>
         <source>&lt;&lt; S&amp;elect</source>
@@ -1101,7 +1112,7 @@ the corresponding Measurement Tool will not be tracked.</source>
     </message>
     <message>
         <source>Remove target from selected Measurement Tool reference</source>
-        <translation type="unfinished" />
+        <translation>Target von der gewählten Messwerkzeug-Referenz entfernen</translation>
     </message>
     <message>
         <source>&gt;&gt; &amp;Deselect</source>
@@ -1133,11 +1144,11 @@ the corresponding Measurement Tool will not be tracked.</source>
     </message>
     <message>
         <source>Search targets in the tracking volume</source>
-        <translation type="unfinished" />
+        <translation>Targets im Trackingvolumen suchen</translation>
     </message>
     <message>
         <source>S&amp;tart search</source>
-        <translation>Suche &amp;starten</translation>
+        <translation>Suche s&amp;tarten</translation>
     </message>
     <message>
         <source>Stop search</source>
@@ -1145,7 +1156,7 @@ the corresponding Measurement Tool will not be tracked.</source>
     </message>
     <message>
         <source>Sto&amp;p</source>
-        <translation>An&amp;halten</translation>
+        <translation>Sto&amp;pp</translation>
     </message>
 </context>
 <context>
@@ -1200,15 +1211,15 @@ the corresponding Measurement Tool will not be tracked.</source>
     </message>
     <message>
         <source>Error: Unable to get max number of %1 bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Höchstzahl der %1-Körper kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to set number of %1 bodies to %2</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Anzahl der %1-Körper kann nicht auf %2 gesetzt werden</translation>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Max. number of bodies is reached!&lt;/font&gt;&lt;/b&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;b&gt;&lt;font color=red&gt;Höchstzahl der Körper ist erreicht!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -1217,7 +1228,8 @@ the corresponding Measurement Tool will not be tracked.</source>
     <message>
         <source>After deactivating the reference target,
 all targets will not be tracked.</source>
-        <translation type="unfinished" />
+        <translation>Nach dem Deaktivieren des Referenztargets
+wird kein Target mehr getrackt.</translation>
     </message>
     <message>
         <source>Continue?</source>
@@ -1225,31 +1237,35 @@ all targets will not be tracked.</source>
     </message>
     <message>
         <source>Error: Unable to get global filter6d status of standard bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Globaler 6DOF-Filterstatus der Standardkörper kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to set global filter6d status of standard bodies</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Globaler 6DOF-Filterstatus der Standardkörper kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>This target is already calibrated as Measurement Tool Reference MR%1.</source>
-        <translation type="unfinished" />
+        <translation>Dieses Target ist bereits als Messwerkzeug-Referenz MR%1 kalibriert.</translation>
     </message>
     <message>
         <source>Delete the Measurement Tool Reference MR%1?</source>
-        <translation type="unfinished" />
+        <translation>Messwerkzeug-Referenz MR%1 löschen?</translation>
     </message>
     <message>
         <source>%1 can bend
 therefore a re-calibration is strongly recommended!</source>
-        <translation type="unfinished" />
+        <translation>%1 kann sich verbiegen,
+daher wird eine Nachkalibrierung dringend empfohlen!</translation>
     </message>
     <message>
         <source>
 
 (To avoid any changes of the geometry
 mount the target to the device prior re-calibration)</source>
-        <translation type="unfinished" />
+        <translation>
+
+(Damit sich die Geometrie nicht ändert,
+das Target vor der Nachkalibrierung am Gerät montieren)</translation>
     </message>
 </context>
 <context>
@@ -1292,11 +1308,11 @@ mount the target to the device prior re-calibration)</source>
     </message>
     <message>
         <source>&amp;Custom calibration</source>
-        <translation>&amp;Eigene Kalibrierung</translation>
+        <translation>Eigene &amp;Kalibrierung</translation>
     </message>
     <message>
         <source>Assing target from target library to selected body</source>
-        <translation type="unfinished" />
+        <translation>Target der Targetbibliothek dem gewählten Körper zuweisen</translation>
     </message>
     <message>
         <source>&lt;&lt; S&amp;elect</source>
@@ -1316,7 +1332,7 @@ mount the target to the device prior re-calibration)</source>
     </message>
     <message>
         <source>c&amp;ategory</source>
-        <translation>K&amp;ategorie</translation>
+        <translation>Katego&amp;rie</translation>
     </message>
     <message>
         <source>Available targets from target library</source>
@@ -1336,11 +1352,11 @@ mount the target to the device prior re-calibration)</source>
     </message>
     <message>
         <source>Serach for targets in the tracking volume</source>
-        <translation type="unfinished" />
+        <translation>Targets im Trackingvolumen suchen</translation>
     </message>
     <message>
         <source>S&amp;tart search</source>
-        <translation>Suche &amp;starten</translation>
+        <translation>Suche s&amp;tarten</translation>
     </message>
     <message>
         <source>Stop search</source>
@@ -1348,7 +1364,7 @@ mount the target to the device prior re-calibration)</source>
     </message>
     <message>
         <source>Sto&amp;p</source>
-        <translation>An&amp;halten</translation>
+        <translation>Sto&amp;pp</translation>
     </message>
 </context>
 <context>
@@ -1367,39 +1383,39 @@ mount the target to the device prior re-calibration)</source>
     </message>
     <message>
         <source>VELORA4</source>
-        <translation type="unfinished" />
+        <translation>VELORA4</translation>
     </message>
     <message>
         <source>Error: Unable to start target library calibration</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Kalibrierung aus der Targetbibliothek kann nicht gestartet werden</translation>
     </message>
     <message>
         <source>. Calibration type is not available</source>
-        <translation type="unfinished" />
+        <translation>. Kalibrierart ist nicht verfügbar</translation>
     </message>
     <message>
         <source>. Calibration is already active.</source>
-        <translation type="unfinished" />
+        <translation>. Kalibrierung läuft bereits.</translation>
     </message>
     <message>
         <source>target library calibration started</source>
-        <translation type="unfinished" />
+        <translation>Kalibrierung aus der Targetbibliothek gestartet</translation>
     </message>
     <message>
         <source>%1 already calibrated</source>
-        <translation type="unfinished" />
+        <translation>%1 bereits kalibriert</translation>
     </message>
     <message>
         <source>Error during target library calibration. Calibration aborted</source>
-        <translation type="unfinished" />
+        <translation>Fehler bei der Kalibrierung aus der Targetbibliothek. Kalibrierung abgebrochen</translation>
     </message>
     <message>
         <source>target library calibration stopped</source>
-        <translation type="unfinished" />
+        <translation>Kalibrierung aus der Targetbibliothek beendet</translation>
     </message>
     <message>
         <source>target library calibration cancelled</source>
-        <translation type="unfinished" />
+        <translation>Kalibrierung aus der Targetbibliothek abgebrochen</translation>
     </message>
     <message>
         <source>found targets: %1, already calibrated: %2</source>
@@ -1426,26 +1442,26 @@ mount the target to the device prior re-calibration)</source>
     </message>
     <message>
         <source>custom</source>
-        <translation type="unfinished" />
+        <translation>eigene</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished" />
+        <translation>nein</translation>
     </message>
 </context>
 <context>
     <name>Targetlibrary</name>
     <message>
         <source>Error: Unable to get target name</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Targetname kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get body type</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Körpertyp kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Error: Unable to get group name</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Gruppenname kann nicht gelesen werden</translation>
     </message>
 </context>
 <context>
@@ -1456,55 +1472,55 @@ mount the target to the device prior re-calibration)</source>
     </message>
     <message>
         <source>Adjust single marker settings</source>
-        <translation type="unfinished" />
+        <translation>Einstellungen der Einzelmarker anpassen</translation>
     </message>
     <message>
         <source>Check calculation of 3DOF markers if needed</source>
-        <translation type="unfinished" />
+        <translation>Ankreuzen, wenn 3DOF-Marker berechnet werden sollen</translation>
     </message>
     <message>
         <source>&amp;calculation of 3DOF markers</source>
-        <translation type="unfinished" />
+        <translation>&amp;Berechnung von 3DOF-Markern</translation>
     </message>
     <message>
         <source>Check automatic restart of measurement after loss of sync signal if needed</source>
-        <translation type="unfinished" />
+        <translation>Ankreuzen, wenn die Messung nach Verlust des Sync-Signals automatisch neu starten soll</translation>
     </message>
     <message>
         <source>automatic &amp;restart of measurement after loss of sync signal</source>
-        <translation type="unfinished" />
+        <translation>automatischer &amp;Neustart der Messung nach Verlust des Sync-Signals</translation>
     </message>
     <message>
         <source>Define which axis of the room coordinate system is up for the 5DOF body</source>
-        <translation type="unfinished" />
+        <translation>Festlegen, welche Achse des Raumkoordinatensystems für den 5DOF-Körper nach oben zeigt</translation>
     </message>
     <message>
         <source>axis &amp;5DOF central</source>
-        <translation type="unfinished" />
+        <translation>&amp;5DOF-Zentralachse</translation>
     </message>
     <message>
         <source>&lt;p&gt;The output pulse of inertial tracking runs&lt;/p&gt;&lt;ul&gt;&lt;li&gt;synchronous to the frequency of the ZEM cameras,&lt;/li&gt;&lt;li&gt;synchronous to the frequency of the selected inertial sensor, or&lt;/li&gt;&lt;li&gt;at a custom output frequency.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;&lt;b&gt;Caution:&lt;/b&gt; do not set a frequency higher than the available devices deliver.&lt;/p&gt;</source>
-        <translation type="unfinished" />
+        <translation>&lt;p&gt;Der Ausgabetakt des Inertialtrackings läuft&lt;/p&gt;&lt;ul&gt;&lt;li&gt;synchron zur Frequenz der ZEM-Kameras,&lt;/li&gt;&lt;li&gt;synchron zur Frequenz des gewählten Inertialsensors oder&lt;/li&gt;&lt;li&gt;mit einer eigenen Ausgabefrequenz.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;&lt;b&gt;Achtung:&lt;/b&gt; keine höhere Frequenz einstellen, als die vorhandenen Geräte liefern.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>tracking frequency</source>
-        <translation type="unfinished" />
+        <translation>Trackingfrequenz</translation>
     </message>
     <message>
         <source>&amp;as ZEM cameras (see Synccard settings)</source>
-        <translation type="unfinished" />
+        <translation>wie ZEM-&amp;Kameras (siehe Synccard-Einstellungen)</translation>
     </message>
     <message>
         <source>as &amp;inertial sensor</source>
-        <translation type="unfinished" />
+        <translation>wie &amp;Inertialsensor</translation>
     </message>
     <message>
         <source>custom &amp;frequency (independent of cameras or sensors)</source>
-        <translation type="unfinished" />
+        <translation>eigene &amp;Frequenz (unabhängig von Kameras und Sensoren)</translation>
     </message>
     <message>
         <source> Hz</source>
-        <translation type="unfinished" />
+        <translation> Hz</translation>
     </message>
     <message>
         <source>&amp;Advanced</source>
@@ -1512,7 +1528,7 @@ mount the target to the device prior re-calibration)</source>
     </message>
     <message>
         <source>Accept changes and close dialog</source>
-        <translation type="unfinished" />
+        <translation>Änderungen übernehmen und Dialog schließen</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1520,7 +1536,7 @@ mount the target to the device prior re-calibration)</source>
     </message>
     <message>
         <source>Discard changes and close dialog</source>
-        <translation type="unfinished" />
+        <translation>Änderungen verwerfen und Dialog schließen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1531,59 +1547,60 @@ mount the target to the device prior re-calibration)</source>
     <name>TrackingDlg</name>
     <message>
         <source>Single Markers</source>
-        <translation type="unfinished" />
+        <translation>Einzelmarker</translation>
     </message>
     <message>
         <source>TrackingSettings: Old version of Pelicam Controller</source>
-        <translation type="unfinished" />
+        <translation>Trackingeinstellungen: alte Version des Pelicam-Controllers</translation>
     </message>
     <message>
         <source>x = %1 mm, y = %2 mm, z = %3 mm</source>
-        <translation type="unfinished" />
+        <translation>x = %1 mm, y = %2 mm, z = %3 mm</translation>
     </message>
     <message>
         <source>Error: Unable to set values of the 5DOF central axis</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Werte der 5DOF-Zentralachse können nicht gesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to set inertial tracking settings</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Einstellungen des Inertialtrackings können nicht gesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to set inertial tracking synchronous to cameras</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Inertialtracking kann nicht synchron zu den Kameras gesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to set inertial tracking to sensor</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Inertialtracking kann nicht auf den Sensor gesetzt werden</translation>
     </message>
     <message>
         <source>Error: Unable to set inertial tracking frequency</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Frequenz des Inertialtrackings kann nicht gesetzt werden</translation>
     </message>
 </context>
 <context>
     <name>TrackingPreferences</name>
     <message>
         <source>Error: Loading tracking settings preferences. File %1 cannot be opened for reading. Using built-in values</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Laden der Trackingeinstellungen. Datei %1 kann nicht gelesen werden. Es gelten die eingebauten Werte</translation>
     </message>
     <message>
         <source>Error: Loading tracking settings preferences while parsing %1 (Line %2, Column %3) :
 %4. Using built-in values</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Laden der Trackingeinstellungen beim Lesen von %1 (Zeile %2, Spalte %3):
+%4. Es gelten die eingebauten Werte</translation>
     </message>
     <message>
-        <source>Error: Loading tracking settings preferences while parsing %1 : The file doesn't look like a valid preferences file. Using built-in values</source>
-        <translation type="unfinished" />
+        <source>Error: Loading tracking settings preferences while parsing %1 : The file doesn&apos;t look like a valid preferences file. Using built-in values</source>
+        <translation>Fehler: Laden der Trackingeinstellungen beim Lesen von %1: Die Datei ist keine gültige Einstellungsdatei. Es gelten die eingebauten Werte</translation>
     </message>
     <message>
-        <source>Error: Writing tracking preferences. Directory %1 doesn't exist and cannot be created</source>
-        <translation type="unfinished" />
+        <source>Error: Writing tracking preferences. Directory %1 doesn&apos;t exist and cannot be created</source>
+        <translation>Fehler: Schreiben der Trackingeinstellungen. Verzeichnis %1 fehlt und kann nicht angelegt werden</translation>
     </message>
     <message>
         <source>Error: Writing tracking preferences. File %1 cannot be opened for writing</source>
-        <translation type="unfinished" />
+        <translation>Fehler: Schreiben der Trackingeinstellungen. Datei %1 kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,17 @@
 
 // "inertial available" and "inertial warmup" are asked at most once per
 // table refresh, and only when a row needs them.
+namespace
+{
+
+// The column that takes the room left; set by stretchColumn.
+const char *const StretchColumn = "trackingStretchColumn";
+// A stretched column squeezed below its contents would show "B…": it keeps
+// the width of this many characters at least, and the table scrolls.
+constexpr int StretchMinimumCharacters = 30;
+
+} // namespace
+
 struct BodyTableFiller::InertialState {
     bool asked = false;
     bool available = false;
@@ -23,6 +34,9 @@ BodyTableFiller::BodyTableFiller(const CommandChannel &channel)
     , m_red(QStringLiteral(":/red.png"))
     , m_delete(QStringLiteral(":/118.png"))
     , m_reset(QStringLiteral(":/48.png"))
+    , m_redDisabled(disabledLook(m_red))
+    , m_deleteDisabled(disabledLook(m_delete))
+    , m_resetDisabled(disabledLook(m_reset))
 {
 }
 
@@ -53,6 +67,7 @@ void BodyTableFiller::fill(const BodyTypeEntry &entry, const ExtraColumnFiller &
             table->setItem(row, column, item);
         }
     }
+    fitColumns(table);
 }
 
 QTableWidgetItem *BodyTableFiller::cell(
@@ -65,8 +80,8 @@ QTableWidgetItem *BodyTableFiller::cell(
         item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
         item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
     };
-    const auto usable = [item](const QIcon &icon, bool isUsable) {
-        item->setIcon(isUsable ? icon : disabledLook(icon));
+    const auto usable = [item](const QIcon &icon, const QIcon &disabled, bool isUsable) {
+        item->setIcon(isUsable ? icon : disabled);
         item->setData(UsableRole, isUsable ? 1 : 0);
     };
 
@@ -90,7 +105,7 @@ QTableWidgetItem *BodyTableFiller::cell(
         item->setText(body.calibrationText);
         item->setFlags(Qt::ItemIsEnabled);
         if (!body.calibrated)
-            item->setIcon(disabledLook(m_red));
+            item->setIcon(m_redDisabled);
         else if (body.hasInertialSensor() && !body.hybridCalibrated)
             item->setIcon(m_yellow);
         else
@@ -100,10 +115,10 @@ QTableWidgetItem *BodyTableFiller::cell(
         item->setText(body.filterText);
         break;
     case DeleteColumn:
-        usable(m_delete, body.calibrated || body.hasInertialSensor());
+        usable(m_delete, m_deleteDisabled, body.calibrated || body.hasInertialSensor());
         break;
     case ResetColumn:
-        usable(m_reset,
+        usable(m_reset, m_resetDisabled,
             (!body.targetLibraryName.isEmpty() && body.recalibrated)
                 || sensorResetUsable(body, inertial));
         break;
@@ -144,11 +159,47 @@ void BodyTableFiller::setUp(QTableWidget *table, const QStringList &headers)
 
 void BodyTableFiller::stretchColumn(QTableWidget *table, int column)
 {
+    // Columns sized by the header itself would be measured again over all
+    // rows for every cell a fill sets; they are sized once per fill instead.
     QHeaderView *header = table->horizontalHeader();
     header->setStretchLastSection(false);
-    for (int c = 0; c < header->count(); ++c)
-        header->setSectionResizeMode(
-            c, c == column ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    for (int c = 0; c < header->count(); ++c) {
+        if (c != column)
+            header->setSectionResizeMode(c, QHeaderView::Fixed);
+    }
+    table->setProperty(StretchColumn, column);
+    fitColumns(table);
+}
+
+void BodyTableFiller::fitColumns(QTableWidget *table)
+{
+    bool stretching = false;
+    const int stretch = table->property(StretchColumn).toInt(&stretching);
+    if (!stretching)
+        return;
+    QHeaderView *header = table->horizontalHeader();
+    // The table's own measure of a column (protected in QTableView only).
+    const QAbstractItemView *view = table;
+    const auto contentWidth = [view, header](int column) {
+        return qMax(header->sectionSizeHint(column), view->sizeHintForColumn(column));
+    };
+    int others = 0;
+    for (int c = 0; c < header->count(); ++c) {
+        if (c == stretch || header->isSectionHidden(c))
+            continue;
+        header->resizeSection(c, contentWidth(c));
+        others += header->sectionSize(c);
+    }
+    if (stretch >= header->count())
+        return;
+    const int minimum = qMin(
+        contentWidth(stretch), table->fontMetrics().averageCharWidth() * StretchMinimumCharacters);
+    if (table->viewport()->width() - others >= minimum) {
+        header->setSectionResizeMode(stretch, QHeaderView::Stretch);
+    } else {
+        header->setSectionResizeMode(stretch, QHeaderView::Interactive);
+        header->resizeSection(stretch, minimum);
+    }
 }
 
 void BodyTableFiller::showMaximumReached(

@@ -32,8 +32,11 @@ public:
     // Header not clickable, no vertical header, single whole rows; names are
     // edited on a double click only.
     static void setUp(QTableWidget *table, const QStringList &headers);
-    // The name column stretches; every other column fits its contents.
+    // The column stretches over the room the others leave; every other
+    // column fits its contents. Called again when the table's width changes.
     static void stretchColumn(QTableWidget *table, int column);
+    // Sizes the columns to the table's contents, once for all rows.
+    static void fitColumns(QTableWidget *table);
     // The red line under a spin box at its maximum.
     static void showMaximumReached(QLabel *label, const QSpinBox *spinBox, const QString &text);
 
@@ -52,6 +55,10 @@ private:
     QIcon m_red;
     QIcon m_delete;
     QIcon m_reset;
+    // Drawn once: every unusable row shows them.
+    QIcon m_redDisabled;
+    QIcon m_deleteDisabled;
+    QIcon m_resetDisabled;
 };
 
 #endif // TRACKING_BODYTABLEFILLER_H

@@ -162,6 +162,7 @@ void GripwandAdministration::setUpHeadTable()
     addBodyType(Head, ui->tableWidget_head, nullptr,
         { IdColumn, CalibrationColumn, DeleteColumn, ResetColumn }, QStringLiteral("%1"));
     ui->tableWidget_head->setColumnHidden(3, true);
+    BodyTableFiller::stretchColumn(ui->tableWidget_head, 1);
 }
 
 void GripwandAdministration::ON_spinBox_gripwands_valueChanged(int num)
@@ -175,7 +176,7 @@ void GripwandAdministration::ON_spinBox_gripwands_valueChanged(int num)
 void GripwandAdministration::applyHeaderModes()
 {
     BodyTableFiller::stretchColumn(ui->tableWidget_gripwand, NameCol);
-    if (ui->tableWidget_head->rowCount() > 0)
+    if (entry(Head))
         BodyTableFiller::stretchColumn(ui->tableWidget_head, 1);
 }
 
@@ -189,7 +190,6 @@ void GripwandAdministration::updateView()
 {
     BodyTableFiller::showMaximumReached(ui->label_error, ui->spinBox_gripwands,
         tr("<b><font color=red>Max. number of gripwands is reached!</font></b>"));
-    applyHeaderModes();
     emit selection_changed();
 }
 

@@ -1,6 +1,10 @@
 #include "commandchannel.h"
 
+#include "replymemory.h"
+
 #include <iomanager.h>
+
+#include <QVariant>
 
 namespace
 {
@@ -11,19 +15,12 @@ class ReplyBuffer
 public:
     ReplyBuffer() { m_data[0] = '\0'; }
     char *data() { return m_data; }
-    // The reply up to its zero byte, or the buffer's end. Line breaks and
-    // other control characters belong to no value; a reply that carries them
-    // is garbled, and they must never find their way into a later command.
+    // The reply up to its zero byte, or the buffer's end, as it came: a reply
+    // with a stray control character is no "yes" and no "velora2 ok".
     QString text()
     {
         m_data[IOManager::ReplyBufferSize - 1] = '\0';
-        QString reply;
-        for (const char *c = m_data; *c; ++c) {
-            const uchar code = uchar(*c);
-            if (code >= 0x20 && code != 0x7f)
-                reply.append(QLatin1Char(*c));
-        }
-        return reply;
+        return QString::fromLatin1(m_data);
     }
 
 private:
@@ -40,24 +37,60 @@ CommandChannel::CommandChannel(IOManager *ioManager, const BackendVersions *vers
     : m_io(ioManager)
     , m_versions(versions)
     , m_gate(versions)
+    , m_memory(ReplyMemory::of(ioManager))
 {
+}
+
+QByteArray CommandChannel::outgoing(const QString &text) const
+{
+    // Replies end up in commands ("inertial sensor_handeye <sensor>") and in
+    // requests to other modules; a line break there would end the line early
+    // and make the rest a command of its own.
+    QByteArray bytes = text.toLatin1();
+    bytes.replace('\n', ' ').replace('\r', ' ');
+    return bytes;
+}
+
+template<typename Value, typename Read>
+int CommandChannel::read(char kind, const QString &path, Value *value, Read ioRead) const
+{
+    *value = Value();
+    if (!m_io)
+        return Failed;
+    const QByteArray command = outgoing(path);
+    QVariant remembered;
+    if (m_memory->recall(kind, command, &remembered)) {
+        *value = remembered.value<Value>();
+        return 0;
+    }
+    Value reply = Value();
+    const int result = ioRead(command.constData(), &reply);
+    // A failed read is asked again next time, and reported again.
+    if (result == 0) {
+        *value = reply;
+        m_memory->remember(kind, command, QVariant::fromValue(reply));
+    }
+    return result;
 }
 
 int CommandChannel::getString(const QString &path, QString *value) const
 {
-    ReplyBuffer reply;
-    const int result
-        = m_io ? m_io->getString(reply.data(), "%s", path.toLatin1().constData()) : Failed;
-    *value = result == 0 ? reply.text() : QString();
-    return result;
+    return read('s', path, value, [this](const char *command, QString *reply) {
+        ReplyBuffer buffer;
+        const int result = m_io->getString(buffer.data(), "%s", command);
+        *reply = buffer.text();
+        return result;
+    });
 }
 
 int CommandChannel::getInt(const QString &path, int *value) const
 {
-    qint32 reply = 0;
-    const int result = m_io ? m_io->getInt(&reply, "%s", path.toLatin1().constData()) : Failed;
-    *value = result == 0 ? reply : 0;
-    return result;
+    return read('i', path, value, [this](const char *command, int *reply) {
+        qint32 number = 0;
+        const int result = m_io->getInt(&number, "%s", command);
+        *reply = number;
+        return result;
+    });
 }
 
 int CommandChannel::getCount(const QString &path, int *count) const
@@ -74,32 +107,38 @@ int CommandChannel::getCount(const QString &path, int *count) const
 
 int CommandChannel::getDouble(const QString &path, double *value) const
 {
-    double reply = 0.0;
-    const int result = m_io ? m_io->getDouble(&reply, "%s", path.toLatin1().constData()) : Failed;
-    *value = result == 0 ? reply : 0.0;
-    return result;
+    return read('d', path, value, [this](const char *command, double *reply) {
+        return m_io->getDouble(reply, "%s", command);
+    });
 }
 
 int CommandChannel::getBool(const QString &path, bool *value) const
 {
-    bool reply = false;
-    const int result = m_io ? m_io->getBool(&reply, "%s", path.toLatin1().constData()) : Failed;
-    *value = result == 0 && reply;
-    return result;
+    return read('b', path, value,
+        [this](const char *command, bool *reply) { return m_io->getBool(reply, "%s", command); });
 }
 
 int CommandChannel::setParameter(const QString &command) const
 {
-    return m_io ? m_io->setParameter("%s", command.toLatin1().constData()) : Failed;
+    if (!m_io)
+        return Failed;
+    const int result = m_io->setParameter("%s", outgoing(command).constData());
+    // Also after a refusal: the controller may have taken part of it.
+    m_memory->forget();
+    return result;
 }
 
 int CommandChannel::sendCommand(const QString &command, QString *reply) const
 {
-    ReplyBuffer buffer;
-    const int result
-        = m_io ? m_io->sendCommand(buffer.data(), "%s", command.toLatin1().constData()) : Failed;
     if (reply)
-        *reply = result == 0 ? buffer.text() : QString();
+        reply->clear();
+    if (!m_io)
+        return Failed;
+    ReplyBuffer buffer;
+    const int result = m_io->sendCommand(buffer.data(), "%s", outgoing(command).constData());
+    m_memory->forget();
+    if (reply && result == 0)
+        *reply = buffer.text();
     return result;
 }
 
@@ -120,14 +159,21 @@ void CommandChannel::setReplyTimeout(int reserved1, int milliseconds, int reserv
 
 void CommandChannel::report(const QString &text) const
 {
-    sendMessage(ReportReceiver, ReportSender, text);
+    // The message log takes lines of its own (a parse error names its line
+    // and column on the next one).
+    if (m_io)
+        m_io->sendMessage(ReportReceiver, ReportSender, ReportLevel, text.toLatin1().constData());
 }
 
 void CommandChannel::sendMessage(
     const char *receiver, const char *sender, const QString &text) const
 {
-    if (m_io)
-        m_io->sendMessage(receiver, sender, ReportLevel, text.toLatin1().constData());
+    if (!m_io)
+        return;
+    m_io->sendMessage(receiver, sender, ReportLevel, outgoing(text).constData());
+    // The module that receives it may change the controller before it
+    // returns.
+    m_memory->forget();
 }
 
 void CommandChannel::registerReceiver(const char *name, MessageReceiver *receiver) const

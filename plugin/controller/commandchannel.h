@@ -6,7 +6,10 @@
 
 #include <QString>
 
+#include <memory>
+
 class IOManager;
+class ReplyMemory;
 class MessageReceiver;
 struct BackendVersions;
 
@@ -18,6 +21,12 @@ struct BackendVersions;
 // other value on failure. On failure the value is set to a neutral value
 // (empty text, 0, false) so that callers can go on with it. Command texts are
 // complete: the channel passes them through "%s", never as a format.
+//
+// Within one burst of GUI work a read that was already answered is answered
+// again from memory (see ReplyMemory); writes and meta commands make it
+// forget. Replies reach callers as the controller wrote them; only where a
+// text leaves the module, in a command or a request to another module, are
+// line breaks made blanks, so that no reply can end a line early.
 class CommandChannel
 {
 public:
@@ -58,9 +67,15 @@ public:
     QString stringOf(const QString &path) const;
 
 private:
+    QByteArray outgoing(const QString &text) const;
+    // Reads of one kind ('s', 'i', 'd', 'b') through the memory.
+    template<typename Value, typename Read>
+    int read(char kind, const QString &path, Value *value, Read ioRead) const;
+
     IOManager *m_io;
     const BackendVersions *m_versions;
     VersionGate m_gate;
+    std::shared_ptr<ReplyMemory> m_memory;
 };
 
 #endif // TRACKING_COMMANDCHANNEL_H

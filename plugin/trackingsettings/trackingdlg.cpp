@@ -162,16 +162,20 @@ void TrackingDlg::readAxis()
 {
     QString reply;
     const bool answered = channel.getString(QLatin1String(CentralAxis), &reply) == 0;
-    const QStringList fields = reply.split(QLatin1Char(' '));
+    // Controllers may add fields after the vector; only the first three count.
+    const QStringList fields = reply.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     double value[3] = { 0, 0, 0 };
-    bool numbers = answered && fields.size() == 3;
+    bool numbers = answered && fields.size() >= 3;
     for (int i = 0; numbers && i < 3; ++i)
         value[i] = fields.at(i).toDouble(&numbers);
 
     ui->comboBox_5dofAxis->setCurrentIndex(-1);
-    // An unreadable reply shows nothing rather than a made-up axis.
-    if (!numbers)
+    // An unreadable reply shows nothing rather than a made-up axis, nor the
+    // vector of an earlier opening.
+    if (!numbers) {
+        ui->label_display5dof->clear();
         return;
+    }
     for (int index = 0; index < AxisCount; ++index) {
         const Axis &axis = Axes[index];
         if (value[0] == axis.x && value[1] == axis.y && value[2] == axis.z) {

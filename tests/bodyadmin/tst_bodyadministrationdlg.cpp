@@ -272,6 +272,8 @@ void TestBodyAdministrationDlg::refusesToCloseDuringCalibration()
         self->close();
         stillOpen << self->isVisible();
         controller->setValue("status active", "none");
+        // The controller changed meanwhile: what follows is the operator's next step.
+        QCoreApplication::processEvents();
         self->findChild<QPushButton *>("pushButton_exit")->click();
         stillOpen << self->isVisible();
     });

@@ -62,6 +62,8 @@ void TestBodyTab::init()
     tab = new TestTab(controller, &controller->backendVersions(), library);
     tab->update_tab();
     controller->clearLog();
+    // What the test changes in the controller comes after the tab was built.
+    QCoreApplication::processEvents();
 }
 
 void TestBodyTab::cleanup()
@@ -558,6 +560,7 @@ void TestBodyTab::searchRunsToTheEnd()
     QVERIFY(tab->isSearching());
 
     controller->advanceClock(5000);
+    QCoreApplication::processEvents(); // the next tick of the timer
     ModalDriver driver;
     driver.pressButton(QMessageBox::Ok);
     tab->measurementStep();

@@ -1,7 +1,7 @@
 #include "target.h"
 #include "targetlibrary.h"
 
-#include <simulatedcontroller.h>
+#include <testkit.h>
 
 #include <QtTest>
 
@@ -10,176 +10,72 @@ class TestTargetlibrary : public QObject
     Q_OBJECT
 
 private slots:
-    void loadsInOrder();
-    void targetFields_data();
-    void targetFields();
-    void failures_data();
-    void failures();
-    void groups();
+    void loads_data();
+    void loads();
     void idOrderAndLookups();
 };
 
-namespace
+void TestTargetlibrary::loads_data()
 {
+    QTest::addColumn<QString>("change"); // PATH=VALUE or a query that fails, '|'-separated
+    QTest::addColumn<QString>("targets"); // id[* calibrated] name/description/body type/group
+    QTest::addColumn<QString>("reports");
 
-// A two-target library with one group, as a controller answers it.
-void smallLibrary(sim::SimulatedController &controller)
-{
-    controller.setValue("targetlib number_of_targets", "2");
-    controller.setValue("targetlib target_name t01", "'GL-5' \"Glasses \"large\"\"");
-    controller.setValue("targetlib target_status_calibrated t01", "standard b01");
-    controller.setValue("targetlib target_bodytype t01", "'standard'");
-    controller.setValue("targetlib target_name t02", "GW-1 Gripwand one");
-    controller.setValue("targetlib target_status_calibrated t02", "none");
-    controller.setValue("targetlib target_bodytype t02", "gripwand");
-    controller.setValue("targetlib number_of_groups", "1");
-    controller.setValue("targetlib group_name g01", "\"Glasses Target\"");
-    controller.setValue("targetlib number_of_group_members g01", "1");
-    controller.setValue("targetlib group_member g01 m01", "t01");
+    const QString t01("t01* GL-5/Glasses large/standard/"),
+        t02(", t02 GW-1/Gripwand one/gripwand/");
+    const QString tools = "targetlib number_of_groups=2|targetlib group_name g02=Tools|targetlib "
+                          "number_of_group_members g02=2|targetlib group_member g02 m02=t77|"
+                          "targetlib group_member g02 m01=t01";
+    // clang-format off
+    QTest::newRow("as read") << "" << t01 + "Glasses Target" + t02 << "";
+    QTest::newRow("no space: no description") << "targetlib target_name t01='GL-5'" << "t01* GL-5//standard/Glasses Target" + t02 << "";
+    QTest::newRow("split at the first space") << "targetlib target_name t01=a b c" << "t01* a/b c/standard/Glasses Target" + t02 << "";
+    QTest::newRow("the group read last wins") << tools << t01 + "Tools" + t02 << "";
+    QTest::newRow("no library, groups still read") << "targetlib number_of_targets" << "" << "";
+    QTest::newRow("name fails: target skipped") << "targetlib target_name t01" << t02.mid(2) << "Error: Unable to get target name";
+    QTest::newRow("body type fails: none") << "targetlib target_bodytype t01" << "t01* GL-5/Glasses large/none/Glasses Target" + t02 << "Error: Unable to get body type";
+    QTest::newRow("calibrated fails silently") << "targetlib target_status_calibrated t01" << "t01 GL-5/Glasses large/standard/Glasses Target" + t02 << "";
+    QTest::newRow("group name fails") << "targetlib group_name g01" << t01 + t02 << "Error: Unable to get group name";
+    QTest::newRow("member count fails silently") << "targetlib number_of_group_members g01" << t01 + t02 << "";
+    QTest::newRow("member fails silently") << "targetlib group_member g01 m01" << t01 + t02 << "";
+    // clang-format on
 }
 
-} // namespace
-
-void TestTargetlibrary::loadsInOrder()
+void TestTargetlibrary::loads()
 {
+    QFETCH(QString, change);
     sim::SimulatedController controller;
-    smallLibrary(controller);
+    controller.loadScenarioText( // two targets and one group, as a controller answers them
+        "targetlib number_of_targets = 2\n"
+        "targetlib target_name t01 = 'GL-5' \"Glasses \"large\"\"\n"
+        "targetlib target_status_calibrated t01 = standard b01\n"
+        "targetlib target_bodytype t01 = 'standard'\n"
+        "targetlib target_name t02 = GW-1 Gripwand one\n"
+        "targetlib target_status_calibrated t02 = none\n"
+        "targetlib target_bodytype t02 = gripwand\n"
+        "targetlib number_of_groups = 1\n"
+        "targetlib group_name g01 = \"Glasses Target\"\n"
+        "targetlib number_of_group_members g01 = 1\n"
+        "targetlib group_member g01 m01 = t01\n",
+        "library");
+    testkit::apply(controller, change);
     Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
-
-    const QStringList expected {
-        "targetlib number_of_targets",
-        "targetlib target_name t01",
-        "targetlib target_status_calibrated t01",
-        "targetlib target_bodytype t01",
-        "targetlib target_name t02",
-        "targetlib target_status_calibrated t02",
-        "targetlib target_bodytype t02",
-        "targetlib number_of_groups",
-        "targetlib group_name g01",
-        "targetlib number_of_group_members g01",
-        "targetlib group_member g01 m01",
-    };
-    QCOMPARE(controller.commands(), expected);
-    QCOMPARE(controller.reports(), QStringList());
-}
-
-void TestTargetlibrary::targetFields_data()
-{
-    QTest::addColumn<QString>("nameReply");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("description");
-
-    QTest::newRow("quoted parts") << "'GL-5' \"Glasses large\""
-                                  << "GL-5"
-                                  << "Glasses large";
-    QTest::newRow("no space: no description") << "'GL-5'"
-                                              << "GL-5"
-                                              << "";
-    QTest::newRow("split at the first space") << "a b c"
-                                              << "a"
-                                              << "b c";
-    QTest::newRow("inner quotes removed") << "x \"a \"b\"\""
-                                          << "x"
-                                          << "a b";
-    QTest::newRow("empty reply") << ""
-                                 << ""
-                                 << "";
-}
-
-void TestTargetlibrary::targetFields()
-{
-    QFETCH(QString, nameReply);
-    QFETCH(QString, name);
-    QFETCH(QString, description);
-
-    sim::SimulatedController controller;
-    smallLibrary(controller);
-    controller.setValue("targetlib target_name t01", nameReply);
-    Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
-
-    const Target *target = library.target("t01");
-    QVERIFY(target);
-    QCOMPARE(target->id, QString("t01"));
-    QCOMPARE(target->name, name);
-    QCOMPARE(target->description, description);
-    QCOMPARE(target->bodyType, QString("standard"));
-    QCOMPARE(target->group, QString("Glasses Target"));
-    QVERIFY(target->calibrated);
-    QVERIFY(!target->tracked);
-    QVERIFY(!library.target("t02")->calibrated);
-    QCOMPARE(library.target("t02")->group, QString());
-}
-
-void TestTargetlibrary::failures_data()
-{
-    QTest::addColumn<QString>("failing");
-    QTest::addColumn<QStringList>("ids");
-    QTest::addColumn<QStringList>("reports");
-    QTest::addColumn<QString>("bodyTypeOfT01");
-    QTest::addColumn<bool>("t01Calibrated");
-
-    QTest::newRow("no library") << "targetlib number_of_targets" << QStringList() << QStringList()
-                                << "" << false;
-    QTest::newRow("name fails: target skipped")
-        << "targetlib target_name t01" << QStringList { "t02" }
-        << QStringList { "Error: Unable to get target name" } << "" << false;
-    QTest::newRow("body type fails: none")
-        << "targetlib target_bodytype t01" << QStringList { "t01", "t02" }
-        << QStringList { "Error: Unable to get body type" } << "none" << true;
-    QTest::newRow("calibrated fails silently")
-        << "targetlib target_status_calibrated t01" << QStringList { "t01", "t02" } << QStringList()
-        << "standard" << false;
-    QTest::newRow("group name fails")
-        << "targetlib group_name g01" << QStringList { "t01", "t02" }
-        << QStringList { "Error: Unable to get group name" } << "standard" << true;
-    QTest::newRow("member count fails silently")
-        << "targetlib number_of_group_members g01" << QStringList { "t01", "t02" } << QStringList()
-        << "standard" << true;
-}
-
-void TestTargetlibrary::failures()
-{
-    QFETCH(QString, failing);
-    QFETCH(QStringList, ids);
-    QFETCH(QStringList, reports);
-    QFETCH(QString, bodyTypeOfT01);
-    QFETCH(bool, t01Calibrated);
-
-    sim::SimulatedController controller;
-    smallLibrary(controller);
-    controller.failCommand(failing);
-    Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
-
-    QCOMPARE(library.targets.keys(), ids);
-    QCOMPARE(controller.reports(), reports);
-    if (const Target *t01 = library.target("t01")) {
-        QCOMPARE(t01->bodyType, bodyTypeOfT01);
-        QCOMPARE(t01->calibrated, t01Calibrated);
-    }
-    // Groups are read even without targets.
-    QVERIFY(controller.commands().contains("targetlib number_of_groups"));
-}
-
-void TestTargetlibrary::groups()
-{
-    sim::SimulatedController controller;
-    smallLibrary(controller);
-    controller.setValue("targetlib number_of_groups", "3");
-    controller.setValue("targetlib group_name g02", "Tools");
-    controller.setValue("targetlib number_of_group_members g02", "2");
-    controller.setValue("targetlib group_member g02 m01", "t01");
-    controller.setValue("targetlib group_member g02 m02", "t77");
-    controller.setValue("targetlib group_name g03", "Empty");
-    controller.setValue("targetlib number_of_group_members g03", "0");
-    Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
-
-    // The group read last wins; a member that is no target reaches nobody.
-    QCOMPARE(library.groupOf("t01"), QString("Tools"));
-    QCOMPARE(library.target("t01")->group, QString("Tools"));
-    QCOMPARE(library.groupOf("t77"), QString("Tools"));
-    QVERIFY(!library.target("t77"));
-    QCOMPARE(library.groupOf("t02"), QString());
-    QVERIFY(!controller.commands().contains("targetlib group_member g03 m01"));
+    QStringList shown;
+    for (const Target *target : qAsConst(library.targets))
+        shown << target->id + (target->calibrated ? "* " : " ") + target->name + '/'
+                + target->description + '/' + target->bodyType + '/' + target->group
+                + (target->tracked ? " tracked" : "");
+    QTEST(shown.join(", "), "targets");
+    QTEST(controller.reports().join('|'), "reports");
+    if (change.isEmpty())
+        QCOMPARE(controller.commands().join(", "),
+            QString("targetlib number_of_targets, targetlib target_name t01, targetlib "
+                    "target_status_calibrated t01, targetlib target_bodytype t01, targetlib "
+                    "target_name t02, targetlib target_status_calibrated t02, targetlib "
+                    "target_bodytype t02, targetlib number_of_groups, targetlib group_name g01, "
+                    "targetlib number_of_group_members g01, targetlib group_member g01 m01"));
+    if (change.contains("t77")) // a member that is no target reaches nobody
+        QCOMPARE(library.groupOf("t77") + '|' + library.groupOf("t02"), QString("Tools|"));
 }
 
 void TestTargetlibrary::idOrderAndLookups()
@@ -197,15 +93,10 @@ void TestTargetlibrary::idOrderAndLookups()
     Targetlibrary library(&controller, &controller.backendVersions(), nullptr);
 
     const QStringList keys = library.targets.keys();
-    QCOMPARE(keys.size(), 101);
-    QCOMPARE(keys.indexOf("t100"), keys.indexOf("t10") + 1);
-    QCOMPARE(keys.indexOf("t11"), keys.indexOf("t100") + 2); // t101 sits between too
-    QCOMPARE(library.idOfName("N3"), QString("t03"));
-    QCOMPARE(library.idOfName("N100"), QString("t100"));
-    QCOMPARE(library.idOfName("n3"), QString());
-    QCOMPARE(library.idOfName(""), QString());
-    QCOMPARE(library.descriptionOf("t07"), QString("Target 7"));
-    QCOMPARE(library.descriptionOf("t999"), QString());
+    QCOMPARE(keys.mid(keys.indexOf("t10"), 4), QStringList({ "t10", "t100", "t101", "t11" }));
+    QCOMPARE(library.idOfName("N3") + library.idOfName("N100"), QString("t03t100"));
+    QCOMPARE(library.idOfName("n3") + library.idOfName(""), QString());
+    QCOMPARE(library.descriptionOf("t07") + library.descriptionOf("t999"), QString("Target 7"));
 }
 
 QTEST_GUILESS_MAIN(TestTargetlibrary)

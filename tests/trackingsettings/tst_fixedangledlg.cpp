@@ -1,52 +1,49 @@
 #include "angletablewidget.h"
 #include "fixedangledlg.h"
 
-#include "temporaryhome.h"
-
 #include <modaldriver.h>
-#include <simulatedcontroller.h>
+#include <testkit.h>
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
+
+using testkit::clickLater;
 
 class TestFixedAngleDlg : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void fillsOneRowPerBody();
-    void rowOfBody_data();
-    void rowOfBody();
-    void typedAngle_data();
-    void typedAngle();
-    void okSendsEveryRow();
-    void invalidDataStopsOk();
-    void helpAndResize();
+    void init() { testkit::useScenario(controller); }
+    void cleanup() { testkit::closeAllAndCheck(); }
+    void opening_data();
+    void opening();
+    void edits_data();
+    void edits();
+    void invalidDataAndHelp();
 
 private:
-    // Opens the dialog and answers it with action; returns the rows shown.
-    QStringList run(const std::function<void(QWidget *)> &action, int *result = nullptr);
+    // Opens the dialog, hands it to action and returns the rows it showed.
+    QStringList run(const std::function<void(AngleTableWidget *)> &action, int *result = nullptr);
 
-    sim::SimulatedController *controller = nullptr;
-    ModalDriver *driver = nullptr;
+    sim::SimulatedController controller;
 };
 
 namespace
 {
-
-AngleTableWidget *tableOf(QWidget *dialog)
+// Types into an angle cell as the operator does: F2, select all, text, Enter.
+void typeInto(QTableWidget *table, int row, int column, const QString &text)
 {
-    return dialog->findChild<AngleTableWidget *>();
-}
-
-void clickLater(QWidget *dialog, const char *button)
-{
-    // Queued: the button may open a modal loop of its own.
-    QMetaObject::invokeMethod(
-        dialog->findChild<QPushButton *>(button), "click", Qt::QueuedConnection);
+    table->setCurrentCell(row, column);
+    QTest::keyClick(table, Qt::Key_F2);
+    auto *editor = table->findChild<QLineEdit *>();
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, text);
+    QTest::keyClick(editor, Qt::Key_Return);
+    // The view commits and closes the editor from the event loop.
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 // "3|Handheld|5.00[x]|0.00[ ]|0.00[ ]", and " gray" for rows that cannot be set.
@@ -67,200 +64,161 @@ QStringList describeRows(const QTableWidget *table)
     }
     return rows;
 }
-
 } // namespace
 
-void TestFixedAngleDlg::init()
-{
-    controller = new sim::SimulatedController;
-    QVERIFY(controller->loadScenario(sim::SimulatedController::defaultScenario()));
-    driver = new ModalDriver;
-}
-
-void TestFixedAngleDlg::cleanup()
-{
-    ModalDriver::closeAllModals();
-    delete driver;
-    delete controller;
-    QVERIFY2(QApplication::topLevelWidgets().isEmpty(),
-        qPrintable(ModalDriver::topLevelWidgetNames().join(", ")));
-}
-
-QStringList TestFixedAngleDlg::run(const std::function<void(QWidget *)> &action, int *result)
+QStringList TestFixedAngleDlg::run(
+    const std::function<void(AngleTableWidget *)> &action, int *result)
 {
     QStringList rows;
-    FixedAngleDlg dialog(controller, nullptr, &controller->backendVersions());
-    driver->answer([&](QWidget *modal) {
-        rows = describeRows(tableOf(modal));
-        action(modal);
+    FixedAngleDlg dialog(&controller, nullptr, &controller.backendVersions());
+    ModalDriver driver;
+    driver.answer([&](QWidget *modal) {
+        rows = describeRows(modal->findChild<AngleTableWidget *>());
+        action(modal->findChild<AngleTableWidget *>());
     });
-    controller->clearLog();
+    controller.clearLog();
     const int code = dialog.update_and_exec();
     if (result)
         *result = code;
     return rows;
 }
 
-void TestFixedAngleDlg::fillsOneRowPerBody()
+void TestFixedAngleDlg::opening_data()
 {
-    const QStringList rows = run([](QWidget *modal) { clickLater(modal, "pushButton_cancel"); });
-    QCOMPARE(rows,
-        QStringList(
-            { "1|Glasses|0.00[ ]|0.00[ ]|0.00[ ]", "2|Room reference|0.00[ ]|0.00[ ]|0.00[ ]",
-                "3|Handheld|5.00[x]|0.00[ ]|0.00[ ]", "4||0.0|0.0|0.0 gray" }));
-    QStringList expected { "body number_of_bodies standard" };
-    for (const QString id : { "b01", "b02", "b03", "b04" })
-        expected << "body desc standard " + id << "body calibrated standard " + id
-                 << "body target_type standard " + id << "standard fixed_angle " + id;
-    QCOMPARE(controller->commands(), expected);
-    QCOMPARE(controller->reports(), QStringList());
-}
-
-void TestFixedAngleDlg::rowOfBody_data()
-{
-    QTest::addColumn<QString>("calibrated");
-    QTest::addColumn<QString>("targetType");
-    QTest::addColumn<QString>("failing");
+    QTest::addColumn<int>("minor");
+    QTest::addColumn<QString>("setting"); // "path=value", or a query that fails
     QTest::addColumn<QStringList>("rows");
     QTest::addColumn<QString>("report");
 
-    const QStringList usable { "1|Glasses|0.00[ ]|12.50[x]|0.00[ ]" };
-    const QStringList gray { "1|Glasses|0.0|0.0|0.0 gray" };
-    const auto row = [](const char *name, const char *calibrated, const char *targetType,
-                         const char *failing, const QStringList &rows, const char *report) {
-        QTest::newRow(name) << calibrated << targetType << failing << rows << report;
-    };
-    row("calibrated tt_2x5dof_cyl", "yes", "tt_2x5dof_cyl", "", usable, "");
-    row("other target type", "yes", "tt_5dof", "", gray, "");
-    row("not calibrated", "no", "tt_std", "", gray, "");
-    row("calibration unknown", "yes", "tt_std", "body calibrated standard b01", gray,
-        "Error: Unable to check the calibration status of standard body");
-    row("number of bodies unknown", "yes", "tt_std", "body number_of_bodies standard", {},
-        "Error: Unable to check number of standard bodies");
+    const QString b3("standard fixed_angle b03"), error("Error: Unable to check ");
+    const QStringList rows { "1|Glasses|0.00[ ]|0.00[ ]|0.00[ ]",
+        "2|Room reference|0.00[ ]|0.00[ ]|0.00[ ]", "3|Handheld|5.00[x]|0.00[ ]|0.00[ ]",
+        "4||0.0|0.0|0.0 gray" };
+    QStringList gray = rows, usable = rows, unknown = rows, cleared = rows;
+    cleared[2] = "3|Handheld|0.00[ ]|0.00[ ]|0.00[ ]";
+    gray[2] = "3|Handheld|0.0|0.0|0.0 gray";
+    usable[2] = "3|Handheld|0.00[ ]|12.50[x]|0.00[ ]";
+    unknown[2] = "3||5.00[x]|0.00[ ]|0.00[ ]";
+    // clang-format off
+    QTest::newRow("as read") << 6 << "" << rows << "";
+    QTest::newRow("before 1.6 nothing") << 5 << "" << QStringList() << "";
+    QTest::newRow("spare blanks, cylinder target") << 24 << b3 + "=no 0.00  yes 12.5 no 0|body target_type standard b03=tt_2x5dof_cyl" << usable << "";
+    QTest::newRow("other target type") << 24 << "body target_type standard b03=tt_5dof" << gray << "";
+    QTest::newRow("not calibrated") << 24 << "body calibrated standard b03=no" << gray << "";
+    QTest::newRow("calibration unknown") << 24 << "body calibrated standard b03" << gray << error + "the calibration status of standard body";
+    QTest::newRow("target type unknown") << 24 << "body target_type standard b03" << gray << error + "target type";
+    QTest::newRow("name unknown") << 24 << "body desc standard b03" << unknown << error + "name of standard body";
+    QTest::newRow("angles unknown") << 24 << b3 << cleared << error + "fixed angle of standard body";
+    QTest::newRow("count unknown") << 24 << "body number_of_bodies standard" << QStringList() << error + "number of standard bodies";
+    // clang-format on
 }
 
-void TestFixedAngleDlg::rowOfBody()
+void TestFixedAngleDlg::opening()
 {
-    QFETCH(QString, calibrated);
-    QFETCH(QString, targetType);
-    QFETCH(QString, failing);
-    QFETCH(QStringList, rows);
-    QFETCH(QString, report);
-
-    controller->setValue("body number_of_bodies standard", "1");
-    controller->setValue("body desc standard b01", "\"Gla\"sses\"");
-    controller->setValue("body calibrated standard b01", calibrated);
-    controller->setValue("body target_type standard b01", targetType);
-    controller->setValue("standard fixed_angle b01", "no 0.00  yes 12.5 no 0");
-    if (!failing.isEmpty())
-        controller->failCommand(failing);
-
-    QCOMPARE(run([](QWidget *modal) { clickLater(modal, "pushButton_cancel"); }), rows);
-    QCOMPARE(controller->reports(), report.isEmpty() ? QStringList() : QStringList { report });
+    QFETCH(int, minor);
+    QFETCH(QString, setting);
+    controller.backendVersions().backendVersion = { 1, minor, 0 };
+    testkit::apply(controller, setting);
+    bool usable = false;
+    QStringList headers;
+    QTEST(run([&](AngleTableWidget *table) {
+        usable
+            = table->isEnabled() && testkit::child(table->window(), "pushButton_ok")->isEnabled();
+        for (int column = 0; column < AngleTableWidget::ColumnCount; ++column)
+            headers << table->horizontalHeaderItem(column)->text();
+        clickLater(table->window(), "pushButton_cancel");
+    }),
+        "rows");
+    QCOMPARE(usable, minor >= 6);
+    QCOMPARE(headers.join(' '), QString("ID Name rx ry rz"));
+    QTEST(controller.reports().join('|'), "report");
+    if (minor == 6)
+        QCOMPARE(controller.commands().mid(0, 6),
+            QStringList({ "body number_of_bodies standard", "body desc standard b01",
+                "body calibrated standard b01", "body target_type standard b01",
+                "standard fixed_angle b01", "body desc standard b02" }));
+    else if (minor < 6)
+        QCOMPARE(controller.commands(), QStringList());
 }
 
-void TestFixedAngleDlg::typedAngle_data()
+void TestFixedAngleDlg::edits_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
-
     for (const auto &row :
         { std::make_pair("25", "0.00"), { "-19.999", "-20.00" }, { "letters", "0.00" },
-            { "20", "20.00" }, { "-20.001", "0.00" }, { "0.005", "0.00" }, { "3.14159", "3.14" } })
+            { "20", "20.00" }, { "-20.001", "0.00" }, { "3.14159", "3.14" } })
         QTest::newRow(row.first) << row.first << row.second;
 }
 
-void TestFixedAngleDlg::typedAngle()
+// Space flips the hold of bodies 1 and 3, an angle is typed for body 2, then OK.
+void TestFixedAngleDlg::edits()
 {
     QFETCH(QString, typed);
     QFETCH(QString, shown);
-
-    FixedAngle body;
-    body.usable = true;
-    AngleTableWidget table;
-    table.fill({ body });
-    for (int column = AngleTableWidget::XColumn; column <= AngleTableWidget::ZColumn; ++column) {
-        table.item(0, column)->setText(typed);
-        QCOMPARE(table.item(0, column)->text(), shown);
-    }
-}
-
-void TestFixedAngleDlg::okSendsEveryRow()
-{
-    Qt::ItemFlags idFlags, nameFlags, angleFlags;
     int result = -1;
+    QString cell;
+    bool nameEdited = true;
     run(
-        [&](QWidget *modal) {
-            controller->clearLog();
-            AngleTableWidget *table = tableOf(modal);
-            idFlags = table->item(0, AngleTableWidget::IdColumn)->flags();
-            nameFlags = table->item(0, AngleTableWidget::NameColumn)->flags();
-            angleFlags = table->item(0, AngleTableWidget::XColumn)->flags();
-            table->item(0, AngleTableWidget::XColumn)->setCheckState(Qt::Checked);
-            table->item(1, AngleTableWidget::YColumn)->setText("-7.5");
-            table->item(2, AngleTableWidget::XColumn)->setCheckState(Qt::Unchecked);
-            clickLater(modal, "pushButton_ok");
+        [&](AngleTableWidget *table) {
+            table->setCurrentCell(0, AngleTableWidget::XColumn);
+            QTest::keyClick(table, Qt::Key_Space);
+            typeInto(table, 1, AngleTableWidget::YColumn, typed);
+            cell = table->item(1, AngleTableWidget::YColumn)->text();
+            table->setCurrentCell(2, AngleTableWidget::XColumn);
+            QTest::keyClick(table, Qt::Key_Space);
+            // A double click never opens the id or the name for editing.
+            QTest::mouseDClick(table->viewport(), Qt::LeftButton, {},
+                table->visualItemRect(table->item(0, AngleTableWidget::NameColumn)).center());
+            nameEdited
+                = table->findChild<QLineEdit *>() && table->findChild<QLineEdit *>()->isVisible();
+            controller.clearLog();
+            clickLater(table->window(), "pushButton_ok");
         },
         &result);
     QCOMPARE(result, int(QDialog::Accepted));
-    QCOMPARE(controller->commands(),
+    QCOMPARE(cell, shown);
+    QVERIFY(!nameEdited);
+    QCOMPARE(controller.commands(),
         QStringList({ "standard fixed_angle b01 yes 0.000000 no 0.000000 no 0.000000",
-            "standard fixed_angle b02 no 0.000000 no -7.500000 no 0.000000",
+            QString::asprintf(
+                "standard fixed_angle b02 no 0.000000 no %f no 0.000000", shown.toDouble()),
             "standard fixed_angle b03 no 5.000000 no 0.000000 no 0.000000",
             "standard fixed_angle b04 no 0.000000 no 0.000000 no 0.000000" }));
-    QVERIFY(!(idFlags & Qt::ItemIsEditable) && !(nameFlags & Qt::ItemIsEditable));
-    QVERIFY((angleFlags & Qt::ItemIsEditable) && (angleFlags & Qt::ItemIsUserCheckable));
 }
 
-void TestFixedAngleDlg::invalidDataStopsOk()
+// OK with a cell no edit could leave behind, then the help.
+void TestFixedAngleDlg::invalidDataAndHelp()
 {
-    FixedAngleDlg dialog(controller, nullptr, &controller->backendVersions());
-    driver->answer([&](QWidget *modal) {
-        controller->clearLog();
-        // Text that no edit could leave behind.
-        const QSignalBlocker unchecked(tableOf(modal));
-        tableOf(modal)->item(1, AngleTableWidget::ZColumn)->setText("abc");
+    int pictures = 0;
+    FixedAngleDlg dialog(&controller, nullptr, &controller.backendVersions());
+    ModalDriver driver;
+    driver.answer([&](QWidget *modal) {
+        const QSignalBlocker unchecked(modal->findChild<AngleTableWidget *>());
+        modal->findChild<AngleTableWidget *>()->item(1, AngleTableWidget::ZColumn)->setText("abc");
+        controller.clearLog();
         clickLater(modal, "pushButton_ok");
     });
-    driver->pressButton(QMessageBox::Ok);
-    driver->answer([](QWidget *modal) { clickLater(modal, "pushButton_cancel"); });
-    QCOMPARE(dialog.update_and_exec(), int(QDialog::Rejected));
-
-    QCOMPARE(driver->seen().size(), 3);
-    QCOMPARE(driver->seen().at(1).title, QString("Fixed Angle"));
-    QCOMPARE(driver->seen().at(1).text, QString("There is invalid data."));
-    QCOMPARE(driver->seen().at(2).className, QString("FixedAngleDlg"));
-    QCOMPARE(controller->commands(),
-        QStringList { "standard fixed_angle b01 no 0.000000 no 0.000000 no 0.000000" });
-}
-
-void TestFixedAngleDlg::helpAndResize()
-{
-    int widthsWrong = -1;
-    int pictures = 0;
-    driver->answer([&](QWidget *modal) {
-        modal->resize(640, 300);
-        const AngleTableWidget *table = tableOf(modal);
-        widthsWrong = 0;
-        for (int column = 0; column < AngleTableWidget::ColumnCount - 1; ++column)
-            widthsWrong += table->columnWidth(column) != table->width() / 5 - 2;
-        clickLater(modal, "pushButton_help");
-    });
-    driver->answer([&](QWidget *help) {
+    driver.pressButton(QMessageBox::Ok);
+    driver.answer([&](QWidget *modal) { clickLater(modal, "pushButton_help"); });
+    driver.answer([&](QWidget *help) {
         for (const QLabel *label : help->findChildren<QLabel *>())
             pictures += !label->pixmap(Qt::ReturnByValue).isNull();
         clickLater(help, "pushButton_exit");
     });
-    driver->reject();
-    FixedAngleDlg dialog(controller, nullptr, &controller->backendVersions());
-    dialog.update_and_exec();
-
-    QCOMPARE(widthsWrong, 0);
-    QCOMPARE(driver->seen().size(), 3);
-    QCOMPARE(driver->seen().at(1).className, QString("HelpDialog"));
-    QCOMPARE(driver->seen().at(1).title, QString("Fixed Angle Settings Help"));
+    driver.reject();
+    QCOMPARE(dialog.update_and_exec(), int(QDialog::Rejected));
+    QStringList seen;
+    for (const ModalDriver::Seen &modal : driver.seen())
+        seen << modal.title + ": " + modal.text;
+    QCOMPARE(seen.join(" | "),
+        QString("Fixed Angle Settings:  | Fixed Angle: There is invalid data. | Fixed Angle "
+                "Settings:  | Fixed Angle Settings Help:  | Fixed Angle Settings: "));
     QCOMPARE(pictures, 2);
+    // The rows before the invalid one have been sent.
+    QCOMPARE(controller.commands(),
+        QStringList { "standard fixed_angle b01 no 0.000000 no 0.000000 no 0.000000" });
 }
 
-TRACKING_TEST_MAIN_WITH_TEMPORARY_HOME(TestFixedAngleDlg)
+QTEST_MAIN(TestFixedAngleDlg)
 #include "tst_fixedangledlg.moc"

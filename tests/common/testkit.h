@@ -1,0 +1,84 @@
+#ifndef TRACKING_TESTKIT_H
+#define TRACKING_TESTKIT_H
+
+#include "modaldriver.h"
+
+#include <simulatedcontroller.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTimer>
+#include <QtTest>
+
+// Small helpers the widget tests share; header-only so that a test links
+// nothing beyond what it already uses.
+namespace testkit
+{
+
+template<typename T = QWidget> T *child(const QObject *parent, const char *name)
+{
+    T *found = parent->findChild<T *>(QLatin1String(name));
+    if (!found)
+        qFatal("no child %s", name);
+    return found;
+}
+
+// A mouse click as the operator makes it, queued: the button may open a
+// modal loop of its own, which must not run inside the caller.
+inline void clickLater(QWidget *widget)
+{
+    QTimer::singleShot(0, widget, [widget] { QTest::mouseClick(widget, Qt::LeftButton); });
+}
+inline void clickLater(const QObject *parent, const char *name)
+{
+    clickLater(child(parent, name));
+}
+
+// What the controller was told to change (settings and meta commands), in
+// order, from entry `from` of its log on.
+inline QStringList settingsOf(const sim::SimulatedController &controller, int from = 0)
+{
+    QStringList sent;
+    const QList<sim::SimulatedController::LogEntry> &log = controller.log();
+    for (int i = from; i < log.size(); ++i)
+        if (log.at(i).kind == sim::SimulatedController::LogEntry::Setting
+            || log.at(i).kind == sim::SimulatedController::LogEntry::Command)
+            sent << log.at(i).text;
+    return sent;
+}
+
+// Loads the built-in scenario at the given controller version.
+inline void useScenario(sim::SimulatedController &controller, int major = 1, int minor = 24,
+    const QString &name = QStringLiteral("default"))
+{
+    if (!controller.loadScenario(QStringLiteral(":/scenarios/%1.scn").arg(name)))
+        qFatal("scenario %s does not load", qPrintable(name));
+    controller.backendVersions().backendVersion = { major, minor, 0 };
+    controller.clearInjections();
+    controller.clearLog();
+}
+
+// Changes the controller as a row says: "PATH=VALUE" sets a parameter, any
+// other part makes that command fail; parts are separated by '|'.
+inline void apply(sim::SimulatedController &controller, const QString &changes)
+{
+    for (const QString &part : changes.split(QLatin1Char('|'), Qt::SkipEmptyParts)) {
+        if (part.contains(QLatin1Char('=')))
+            controller.setValue(
+                part.section(QLatin1Char('='), 0, 0), part.section(QLatin1Char('='), 1));
+        else
+            controller.failCommand(part);
+    }
+}
+
+// For cleanup(): no modal loop and no top-level widget may outlive a test.
+inline void closeAllAndCheck()
+{
+    ModalDriver::closeAllModals();
+    QVERIFY2(QApplication::topLevelWidgets().isEmpty(),
+        qPrintable(ModalDriver::topLevelWidgetNames().join(", ")));
+}
+
+} // namespace testkit
+
+#endif // TRACKING_TESTKIT_H
