@@ -379,6 +379,53 @@ Geometrie von %2 %3 löschen?</translation>
     </message>
 </context>
 <context>
+    <name>CellToolTips</name>
+    <message>
+        <source>Not calibrated: assign a library target or run a custom calibration</source>
+        <translation>Nicht kalibriert: ein Target aus der Targetbibliothek zuweisen oder eine eigene Kalibrierung durchführen</translation>
+    </message>
+    <message>
+        <source>Calibrated optically; the inertial sensor has no hand-eye calibration</source>
+        <translation>Optisch kalibriert; der Inertialsensor hat keine Hand-Auge-Kalibrierung</translation>
+    </message>
+    <message>
+        <source>Calibrated</source>
+        <translation>Kalibriert</translation>
+    </message>
+    <message>
+        <source>Click to delete the geometry and the sensor assignment of this body</source>
+        <translation>Klicken, um die Geometrie und die Sensorzuordnung dieses Körpers zu löschen</translation>
+    </message>
+    <message>
+        <source>Click to delete the geometry of this body</source>
+        <translation>Klicken, um die Geometrie dieses Körpers zu löschen</translation>
+    </message>
+    <message>
+        <source>Nothing to delete: the body has no geometry and no inertial sensor</source>
+        <translation>Nichts zu löschen: Der Körper hat weder Geometrie noch Inertialsensor</translation>
+    </message>
+    <message>
+        <source>Click to reset the body to its target-library geometry</source>
+        <translation>Klicken, um den Körper auf seine Geometrie aus der Targetbibliothek zurückzusetzen</translation>
+    </message>
+    <message>
+        <source>Click to reset the body&apos;s inertial sensor</source>
+        <translation>Klicken, um den Inertialsensor des Körpers zurückzusetzen</translation>
+    </message>
+    <message>
+        <source>A sensor reset needs inertial tracking, and no warm-up running</source>
+        <translation>Ein Sensor-Reset braucht Inertial-Tracking und kein laufendes Aufwärmen</translation>
+    </message>
+    <message>
+        <source>Nothing to reset: the body has its target-library geometry</source>
+        <translation>Nichts zurückzusetzen: Der Körper hat seine Geometrie aus der Targetbibliothek</translation>
+    </message>
+    <message>
+        <source>Nothing to reset: the body has no target-library geometry and no sensor</source>
+        <translation>Nichts zurückzusetzen: Der Körper hat weder Geometrie aus der Targetbibliothek noch Sensor</translation>
+    </message>
+</context>
+<context>
     <name>FilterDialog</name>
     <message>
         <source>Filter Settings</source>

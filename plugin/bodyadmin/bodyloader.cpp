@@ -95,19 +95,34 @@ BodyRecord BodyLoader::load(const QString &type, int index) const
     body.calibrationText = calibrationText(body);
     body.filterText = filterText(type, index);
     if (m_channel.atLeast(1, 24))
-        body.isReference = isReference(type, index);
+        body.isReference = type == QLatin1String("standard") && referenceNumber() == index + 1;
     return body;
 }
 
 QString BodyLoader::calibrationText(const BodyRecord &body)
 {
+    return calibrationText(body, false);
+}
+
+QString BodyLoader::displayedCalibrationText(const BodyRecord &body)
+{
+    return calibrationText(body, true);
+}
+
+// The state is data: the hand-overs compare and send these words whatever
+// language the user reads, so only the table translates them.
+QString BodyLoader::calibrationText(const BodyRecord &body, bool translated)
+{
+    const auto word
+        = [translated](const char *text) { return translated ? tr(text) : QLatin1String(text); };
     if (!body.calibrated)
-        return tr("not calibrated");
+        return word(QT_TR_NOOP("not calibrated"));
     if (body.hasInertialSensor())
-        return body.hybridCalibrated ? tr("Full") : tr("Optical");
-    QString text = body.targetLibraryName.isEmpty() ? tr("Custom") : tr("Target Library");
+        return body.hybridCalibrated ? word(QT_TR_NOOP("Full")) : word(QT_TR_NOOP("Optical"));
+    QString text = body.targetLibraryName.isEmpty() ? word(QT_TR_NOOP("Custom"))
+                                                    : word(QT_TR_NOOP("Target Library"));
     if (body.recalibrated)
-        text += tr(", re-calibrated");
+        text += word(QT_TR_NOOP(", re-calibrated"));
     return text;
 }
 
@@ -140,17 +155,18 @@ QString BodyLoader::filterText(const QString &type, int index) const
         .arg(modeDescription);
 }
 
-bool BodyLoader::isReference(const QString &type, int index) const
+int BodyLoader::referenceNumber() const
 {
     QString reply;
     if (m_channel.getString(QStringLiteral("tracking reference"), &reply) != 0) {
         m_channel.report(tr("Error: Unable to info body reference"));
-        return false;
+        return 0;
     }
     if (CommandText::isNone(reply))
-        return false;
+        return 0;
     const QStringList parts = reply.split(QLatin1Char(' '));
     // Only standard bodies can be the reference: "standard b03".
     return parts.size() >= 2 && parts.at(0) == QLatin1String("standard")
-        && type == QLatin1String("standard") && parts.at(1).mid(1).toInt() == index + 1;
+        ? parts.at(1).mid(1).toInt()
+        : 0;
 }

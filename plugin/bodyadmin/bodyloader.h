@@ -27,11 +27,17 @@ public:
 
     BodyRecord load(const QString &type, int index) const;
     QString filterText(const QString &type, int index) const;
+    // The number of the standard body that is the tracking reference, 0 for
+    // none; only the controller's own words, as the loading reads them.
+    int referenceNumber() const;
+    // The calibration state in the controller's and the other modules'
+    // words; displayed() gives it in the user's language.
     static QString calibrationText(const BodyRecord &body);
+    static QString displayedCalibrationText(const BodyRecord &body);
 
 private:
     QString bodyQuery(const char *parameter, const QString &type, int index) const;
-    bool isReference(const QString &type, int index) const;
+    static QString calibrationText(const BodyRecord &body, bool translated);
 
     const CommandChannel &m_channel;
 };

@@ -1,5 +1,6 @@
 #include "bodytablefiller.h"
 
+#include "bodyloader.h"
 #include "commandchannel.h"
 
 #include <QHeaderView>
@@ -102,7 +103,7 @@ QTableWidgetItem *BodyTableFiller::cell(
         item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsEnabled);
         break;
     case CalibrationColumn:
-        item->setText(body.calibrationText);
+        item->setText(BodyLoader::displayedCalibrationText(body));
         item->setFlags(Qt::ItemIsEnabled);
         if (!body.calibrated)
             item->setIcon(m_redDisabled);

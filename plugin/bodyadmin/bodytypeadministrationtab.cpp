@@ -1,13 +1,17 @@
 #include "bodytypeadministrationtab.h"
 
+#include "busycursor.h"
+#include "celltooltips.h"
 #include "editdelegate.h"
 #include "filterdialog.h"
 #include "handoverrequest.h"
 #include "target.h"
 #include "targetlibrary.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -70,10 +74,16 @@ BodyTypeEntry &BodyTypeAdministrationTab::addBodyType(const QString &type, QTabl
     if (selectedType.isEmpty())
         selectedType = type;
 
-    if (spinBox)
+    if (spinBox) {
+        // A count is sent when it is finished (arrows, Enter, leaving the
+        // box): typing "10" must not first send 1 and drop the bodies above.
+        spinBox->setKeyboardTracking(false);
+        spinBox->installEventFilter(this);
         connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
             &BodyTypeAdministrationTab::ON_spinBox_valueChanged);
+    }
     if (table) {
+        table->installEventFilter(this);
         connect(table, &QTableWidget::itemChanged, this,
             &BodyTypeAdministrationTab::ON_tableWidget_itemChanged);
         connect(table, &QTableWidget::cellClicked, this,
@@ -160,18 +170,40 @@ bool BodyTypeAdministrationTab::canHybridCalibrateSelected() const
     return CommandText::isYes(reply);
 }
 
-// Loading and showing the cache.
+void BodyTypeAdministrationTab::setLocked(bool locked)
+{
+    if (this->locked == locked)
+        return;
+    this->locked = locked;
+    // A lock that comes while the tab is shown closes its controls at once;
+    // an unlock reads the new configuration.
+    if (locked) {
+        enableChildren();
+        updateView();
+    } else if (isVisible()) {
+        update_tab();
+    }
+}
 
-void BodyTypeAdministrationTab::update_tab()
+void BodyTypeAdministrationTab::enableChildren()
 {
     const bool enabled = !locked && isTypeAvailable();
     const QList<QWidget *> children
         = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget *child : children)
         child->setEnabled(enabled);
+}
 
+// Loading and showing the cache.
+
+void BodyTypeAdministrationTab::update_tab()
+{
+    enableChildren();
+    BusyCursor busy;
+    busyCursor = &busy;
     for (auto it = types.begin(); it != types.end(); ++it)
         reloadBodies(it.key());
+    busyCursor = nullptr;
     // Idle tabs follow the tracked targets.
     if (targetSearch->widgets().targetTable && !targetSearch->isSearching())
         targetSearch->startStatusTimer();
@@ -196,6 +228,8 @@ void BodyTypeAdministrationTab::loadBody(const QString &type, int index)
     BodyTypeEntry *e = entry(type);
     if (e && e->contains(index))
         e->bodies[index] = loader.load(type, index);
+    if (busyCursor)
+        busyCursor->poll();
 }
 
 void BodyTypeAdministrationTab::refreshSpinBox(const QString &type, bool reconnect)
@@ -215,10 +249,13 @@ void BodyTypeAdministrationTab::refreshSpinBox(const QString &type, bool reconne
 
 void BodyTypeAdministrationTab::refreshTable(const QString &type)
 {
-    if (const BodyTypeEntry *e = entry(type))
+    if (const BodyTypeEntry *e = entry(type)) {
         tableFiller.fill(*e, [this, &type](int index, int column, QTableWidgetItem *item) {
             updateExtraColumn(type, index, column, item);
         });
+        const QSignalBlocker blocker(e->table);
+        CellToolTips::apply(*e);
+    }
 }
 
 void BodyTypeAdministrationTab::changeNumberOfBodies(const QString &type, int count)
@@ -229,6 +266,10 @@ void BodyTypeAdministrationTab::changeNumberOfBodies(const QString &type, int co
     const int cached = e->bodies.size();
     if (count == cached)
         return;
+    if (locked) {
+        refreshSpinBox(type, true);
+        return;
+    }
     // Only the last body is looked at: the controller moves the reference
     // to it when bodies are reordered.
     if (type == Standard && count < cached && e->bodies.at(cached - 1).isReference) {
@@ -244,6 +285,15 @@ void BodyTypeAdministrationTab::changeNumberOfBodies(const QString &type, int co
 
     e->bodies.resize(count);
     setNumberOfBodies(type, count);
+    // A count the controller refused does not stay on screen.
+    int held = count;
+    if (channel.getCount(QStringLiteral("body number_of_bodies %1").arg(type), &held) == 0
+        && held != count) {
+        reloadBodies(type);
+        updateView();
+        emit selection_changed(selectedType, selectedIndex);
+        return;
+    }
     if (cached < count) {
         refreshSpinBox(type, false);
         for (int i = cached; i < count; ++i)
@@ -263,14 +313,55 @@ void BodyTypeAdministrationTab::ON_spinBox_valueChanged(int num)
 
 // Table slots.
 
+// The table's own check boxes and the name editor change an item: a click on
+// a check box, Space on a check cell, and F2, a double click or typing in
+// the name cell all arrive here, filling never does (its signals are
+// blocked).
 void BodyTypeAdministrationTab::ON_tableWidget_itemChanged(QTableWidgetItem *item)
 {
     const QString type = typeOf(sender());
+    if (item && entry(type))
+        applyCellChange(type, item);
+}
+
+void BodyTypeAdministrationTab::applyCellChange(const QString &type, const QTableWidgetItem *item)
+{
     const BodyTypeEntry *e = entry(type);
-    if (!e || !item || e->columnRoles.value(item->column()) != NameColumn)
+    const int row = item->row();
+    const int role = e->columnRoles.value(item->column());
+    if (!e->contains(row)
+        || (role != NameColumn && role != ActiveColumn && role != ReferenceColumn))
         return;
-    setBodyDescription(type, item->row(), item->text());
+    if (locked) {
+        refreshTable(type);
+        return;
+    }
+    if (role == NameColumn) {
+        setBodyDescription(type, row, item->text());
+    } else {
+        const bool checked = item->checkState() == Qt::Checked;
+        if (role == ActiveColumn)
+            setBodyActive(type, row, checked);
+        else
+            setReferenceBody(type, row, checked);
+    }
+    readBack(type, row);
     updateView();
+}
+
+void BodyTypeAdministrationTab::readBack(const QString &type, int row)
+{
+    BodyTypeEntry *e = entry(type);
+    if (!e)
+        return;
+    loadBody(type, row);
+    // The reference is one of the type's bodies: the others may have lost it.
+    if (type == Standard && channel.atLeast(1, 24)) {
+        const int reference = loader.referenceNumber();
+        for (int i = 0; i < e->bodies.size(); ++i)
+            e->bodies[i].isReference = reference == i + 1;
+    }
+    refreshTable(type);
 }
 
 void BodyTypeAdministrationTab::ON_tableWidget_cellClicked(int iRow, int iCol)
@@ -283,41 +374,92 @@ void BodyTypeAdministrationTab::ON_tableWidget_cellClicked(int iRow, int iCol)
         return;
     table->setCurrentItem(item);
     const QString type = typeOf(table);
-    BodyTypeEntry *e = entry(type);
-    if (!e || locked || !e->contains(iRow))
+    const BodyTypeEntry *e = entry(type);
+    if (!e)
         return;
+    // Locked, the click only selects; the check boxes toggled themselves
+    // before the click arrived and are handled as a change of the item.
+    if (!locked && e->contains(iRow))
+        actOnCell(type, iRow, e->columnRoles.value(iCol), item);
+    emit selection_changed(selectedType, selectedIndex);
+    storeSelection();
+}
 
-    const bool checked = item->checkState() == Qt::Checked;
-    const bool usable = item->data(BodyTableFiller::UsableRole).toInt() == 1;
-    switch (e->columnRoles.value(iCol)) {
-    case ActiveColumn:
-        setBodyActive(type, iRow, checked);
-        break;
-    case ReferenceColumn:
-        setReferenceBody(type, iRow, checked);
-        break;
+void BodyTypeAdministrationTab::actOnCell(
+    const QString &type, int row, int role, const QTableWidgetItem *item)
+{
+    BodyTypeEntry *e = entry(type);
+    const bool usable = item && item->data(BodyTableFiller::UsableRole).toInt() == 1;
+    switch (role) {
     case FilterColumn:
-        if (e->filterAvailable && e->bodies.at(iRow).calibrated) {
-            toggleFilter(type, iRow);
-            e->bodies[iRow].filterText = loader.filterText(type, iRow);
+        if (e->filterAvailable && e->bodies.at(row).calibrated) {
+            toggleFilter(type, row);
+            e->bodies[row].filterText = loader.filterText(type, row);
             refreshTable(type);
         }
         break;
     case DeleteColumn:
         if (usable) {
-            deleteFromTable(type, iRow);
+            deleteFromTable(type, row);
             update_tab();
         }
         break;
     case ResetColumn:
         if (usable)
-            resetBody(type, iRow);
+            resetBody(type, row);
         break;
     default:
         break;
     }
-    emit selection_changed(selectedType, selectedIndex);
-    storeSelection();
+}
+
+bool BodyTypeAdministrationTab::eventFilter(QObject *watched, QEvent *event)
+{
+    // Enter finishes a count where it was typed; it must not also press the
+    // dialog's default button and close the dialog.
+    auto *spinBox = qobject_cast<QSpinBox *>(watched);
+    if (spinBox && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            spinBox->interpretText();
+            spinBox->selectAll();
+            return true;
+        }
+    }
+    auto *table = qobject_cast<QTableWidget *>(watched);
+    const QString type = typeOf(table);
+    if (!table || type.isEmpty() || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    const int row = table->currentRow();
+    const BodyTypeEntry *e = entry(type);
+    if ((key != Qt::Key_F2 && key != Qt::Key_Delete) || !e->contains(row))
+        return QWidget::eventFilter(watched, event);
+    if (!locked) {
+        if (key == Qt::Key_F2) {
+            if (QTableWidgetItem *name = table->item(row, e->columnOf(NameColumn)))
+                table->editItem(name);
+        } else {
+            actOnCell(type, row, DeleteColumn, table->item(row, e->columnOf(DeleteColumn)));
+            emit selection_changed(selectedType, selectedIndex);
+            storeSelection();
+        }
+    }
+    return true;
+}
+
+void BodyTypeAdministrationTab::keyPressEvent(QKeyEvent *event)
+{
+    // The same for a name: the editor lets its Enter pass on.
+    const QWidget *focus = QApplication::focusWidget();
+    bool typed = false;
+    for (auto it = types.cbegin(); it != types.cend() && focus; ++it)
+        typed = typed || (it->table && focus != it->table && it->table->isAncestorOf(focus));
+    if (typed && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        event->accept();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void BodyTypeAdministrationTab::ON_tableWidget_cellDoubleClicked(int iRow, int iCol)
@@ -337,6 +479,9 @@ void BodyTypeAdministrationTab::ON_tableWidget_currentItemChanged(
         return;
     selectedType = typeOf(sender());
     selectedIndex = current->row();
+    // The selection signal of the table came before this one: the rules
+    // are evaluated again on the body that is now current.
+    applySelectionRules();
     emit selection_changed(selectedType, selectedIndex);
 }
 

@@ -12,9 +12,11 @@
 #include <QMap>
 #include <QWidget>
 
+class BusyCursor;
 class EditDelegate;
 class IOManager;
 class QComboBox;
+class QKeyEvent;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -49,7 +51,7 @@ public:
     virtual int currentRow() const = 0;
 
     // The dialog's configuration lock; while set every edit path is closed.
-    void setLocked(bool locked) { this->locked = locked; }
+    void setLocked(bool locked);
     bool isLocked() const { return locked; }
     const BodyTypeEntry *entry(const QString &type) const;
     // Empty when the body is unknown.
@@ -59,7 +61,8 @@ public:
     bool isSearching() const { return targetSearch->isSearching(); }
     // Multi-user Gripwands are in effect (only the Gripwand tab knows).
     virtual bool isMultiUserActive() { return false; }
-    // Select and Deselect follow the current rows while no search runs.
+    // The tab's own buttons follow the current rows: Select and Deselect
+    // while no search runs, and where a tab has one, its Filter button.
     virtual void applySelectionRules();
     // Reads the used state of the type's library targets again and refills
     // the target table, after another module may have calibrated a body.
@@ -99,6 +102,11 @@ protected slots:
     virtual void updateTrackedAndAcceptStatus_tl();
 
 protected:
+    // F2 and Delete on a body table; Enter that a spin box or a name editor
+    // has taken.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
     // Registers a body type: reads its description and filter availability,
     // and connects its spin box and table to the slots above.
     BodyTypeEntry &addBodyType(const QString &type, QTableWidget *table, QSpinBox *spinBox,
@@ -165,9 +173,17 @@ protected:
     int assignBodyRow = 0; // rows of the Select under way or of the refresh
     int assignTargetRow = -1;
     EditDelegate *delegate;
+    BusyCursor *busyCursor = nullptr; // set while a reload runs
 
 private:
     void deleteFromTable(const QString &type, int index);
+    // What a click on a cell of the delete, reset or filter column does.
+    void actOnCell(const QString &type, int row, int role, const QTableWidgetItem *item);
+    // A check box or name the user changed in the table.
+    void applyCellChange(const QString &type, const QTableWidgetItem *item);
+    // After an edit from the table: the row shows what the controller holds.
+    void readBack(const QString &type, int row);
+    void enableChildren();
     void toggleFilter(const QString &type, int index);
     const BodyRecord *selectedBody() const;
 };

@@ -229,6 +229,11 @@ void GripwandAdministration::ON_activeConfigurationChanged()
 void GripwandAdministration::on_tableWidget_gripwand_itemSelectionChanged()
 {
     applySelectionRules();
+}
+
+void GripwandAdministration::applySelectionRules()
+{
+    BodyTypeAdministrationTab::applySelectionRules();
     ui->pushButton_filter->setEnabled(canFilterSelected());
 }
 

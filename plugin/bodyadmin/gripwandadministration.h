@@ -29,6 +29,7 @@ public:
         const QString &btype, int index, int column, QTableWidgetItem *item) override;
     // Multi-user Gripwands are available and switched on.
     bool isMultiUserActive() override;
+    void applySelectionRules() override;
     bool isHeadShown() const { return headShown; }
 
 signals:

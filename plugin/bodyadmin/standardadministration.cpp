@@ -114,7 +114,7 @@ void StandardAdministration::updateColumnsAndStatus()
 void StandardAdministration::updateMoveButtons()
 {
     const QList<QTableWidgetItem *> selected = ui->tableWidget_standard->selectedItems();
-    const int row = selected.isEmpty() ? -1 : selected.first()->row();
+    const int row = selected.isEmpty() || locked ? -1 : selected.first()->row();
     ui->pushButton_up->setEnabled(row > 0);
     ui->pushButton_down->setEnabled(row >= 0 && row < ui->tableWidget_standard->rowCount() - 1);
 }
@@ -146,7 +146,7 @@ void StandardAdministration::update_tab()
 void StandardAdministration::moveBody(int step)
 {
     const QList<QTableWidgetItem *> selected = ui->tableWidget_standard->selectedItems();
-    if (selected.isEmpty())
+    if (selected.isEmpty() || locked)
         return;
     const int row = selected.first()->row();
     const int target = row + step;
@@ -171,6 +171,11 @@ void StandardAdministration::on_tableWidget_standard_itemSelectionChanged()
 {
     updateMoveButtons();
     applySelectionRules();
+}
+
+void StandardAdministration::applySelectionRules()
+{
+    BodyTypeAdministrationTab::applySelectionRules();
     ui->pushButton_filter->setEnabled(!isSearching() && canFilterSelected());
 }
 

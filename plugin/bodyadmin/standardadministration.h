@@ -28,6 +28,7 @@ public:
     void setNumberOfBodies(const QString &btype, int count) override;
     void updateExtraColumn(
         const QString &btype, int index, int column, QTableWidgetItem *item) override;
+    void applySelectionRules() override;
 
 signals:
     void selection_changed();

@@ -108,7 +108,12 @@ void TargetSearch::start()
         combo->setCurrentIndex(combo->findText(TargetStatus::FoundTargets));
 
     const QString refused = tr("Error: Unable to start target library calibration");
-    if (!CommandText::isYes(m_channel.stringOf(QStringLiteral("cal available targetlib")))) {
+    QString available;
+    if (m_channel.getString(QStringLiteral("cal available targetlib"), &available) != 0) {
+        m_channel.report(refused);
+        return;
+    }
+    if (!CommandText::isYes(available)) {
         m_channel.report(refused + tr(". Calibration type is not available"));
         return;
     }

@@ -78,7 +78,10 @@ QStringList TargetStatus::categories(const QString &bodyType) const
     if (!m_library)
         return groups;
     for (const Target *target : qAsConst(m_library->targets)) {
-        if (target->bodyType == bodyType && !groups.contains(target->group))
+        // A target in no group has no category: an empty one would list
+        // every target.
+        if (target->bodyType == bodyType && !target->group.isEmpty()
+            && !groups.contains(target->group))
             groups.append(target->group);
     }
     groups.sort(Qt::CaseSensitive);

@@ -52,42 +52,38 @@ BackendVersions::Version version(const QString &text)
 void TestBodyLoader::queriesByVersion_data()
 {
     QTest::addColumn<QString>("version");
-    QTest::addColumn<QStringList>("queries");
+    QTest::addColumn<QString>("asked"); // letters of the queries below, in order
 
-    const QString b = " standard b02";
-    const QString handEye = "inertial sensor_handeye VX IMU 'A1'";
-    const QString filter = "body filter6d_enabled" + b;
-    QTest::newRow("0.2: nothing but the filter") << "0.2.0" << QStringList { filter };
-    QTest::newRow("0.3: calibration state")
-        << "0.3.0" << QStringList { "body calibrated" + b, filter };
-    QTest::newRow("0.16: description")
-        << "0.16.0" << QStringList { "body desc" + b, "body calibrated" + b, filter };
-    QTest::newRow("1.11: library, activeness, re-calibration")
-        << "1.11.0"
-        << QStringList { "body desc" + b, "body targetlib_name" + b, "body active" + b,
-               "body calibrated" + b, "body recalibrated" + b, filter };
-    QTest::newRow("1.12: inertial sensor and its hand-eye state")
-        << "1.12.-1"
-        << QStringList { "body desc" + b, "body targetlib_name" + b, "body active" + b,
-               "body calibrated" + b, "body recalibrated" + b, "body inertial_sensor" + b, handEye,
-               filter };
-    QTest::newRow("1.24: reference")
-        << "1.24.0"
-        << QStringList { "body desc" + b, "body targetlib_name" + b, "body active" + b,
-               "body calibrated" + b, "body recalibrated" + b, "body inertial_sensor" + b, handEye,
-               filter, "tracking reference" };
-    QTest::newRow("1.23 pre-release: no reference")
-        << "1.24.-2"
-        << QStringList { "body desc" + b, "body targetlib_name" + b, "body active" + b,
-               "body calibrated" + b, "body recalibrated" + b, "body inertial_sensor" + b, handEye,
-               filter };
+    QTest::newRow("0.2: nothing but the filter") << "0.2.0"
+                                                 << "f";
+    QTest::newRow("0.3: calibration state") << "0.3.0"
+                                            << "cf";
+    QTest::newRow("0.16: description") << "0.16.0"
+                                       << "dcf";
+    QTest::newRow("1.11: library, activeness, re-calibration") << "1.11.0"
+                                                               << "dlacrf";
+    QTest::newRow("1.12: inertial sensor and its hand-eye state") << "1.12.-1"
+                                                                  << "dlacrshf";
+    QTest::newRow("1.24: reference") << "1.24.0"
+                                     << "dlacrshft";
+    QTest::newRow("1.23 pre-release: no reference") << "1.24.-2"
+                                                    << "dlacrshf";
 }
 
 void TestBodyLoader::queriesByVersion()
 {
     QFETCH(QString, version);
-    QFETCH(QStringList, queries);
+    QFETCH(QString, asked);
 
+    const QString b = " standard b02";
+    const QMap<QChar, QString> query { { 'd', "body desc" + b }, { 'l', "body targetlib_name" + b },
+        { 'a', "body active" + b }, { 'c', "body calibrated" + b },
+        { 'r', "body recalibrated" + b }, { 's', "body inertial_sensor" + b },
+        { 'h', "inertial sensor_handeye VX IMU 'A1'" }, { 'f', "body filter6d_enabled" + b },
+        { 't', "tracking reference" } };
+    QStringList queries;
+    for (QChar letter : asked)
+        queries << query.value(letter);
     sim::SimulatedController controller;
     bodyTwo(controller);
     controller.backendVersions().backendVersion = ::version(version);
@@ -97,47 +93,42 @@ void TestBodyLoader::queriesByVersion()
     QCOMPARE(controller.commands(), queries);
     QCOMPARE(controller.reports(), QStringList());
     // Skipped steps leave their fields empty.
-    QCOMPARE(body.description.isEmpty(), !queries.contains("body desc standard b02"));
-    QCOMPARE(body.isReference, queries.contains("tracking reference"));
-    if (!body.description.isEmpty())
-        QCOMPARE(body.description, QString("Room ref"));
+    QCOMPARE(body.description, QString(asked.contains('d') ? "Room ref" : ""));
+    QCOMPARE(body.isReference, asked.contains('t'));
 }
 
 void TestBodyLoader::calibrationText_data()
 {
-    QTest::addColumn<bool>("calibrated");
-    QTest::addColumn<QString>("library");
-    QTest::addColumn<bool>("recalibrated");
-    QTest::addColumn<QString>("sensor");
-    QTest::addColumn<bool>("handEye");
+    QTest::addColumn<QString>("state"); // calibrated, library, re-calibrated, sensor, hand-eye
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("uncalibrated") << false << "GL-5" << true << "S" << true << "not calibrated";
-    QTest::newRow("custom") << true << "" << false << "" << false << "Custom";
-    QTest::newRow("custom, re-calibrated")
-        << true << "" << true << "" << false << "Custom, re-calibrated";
-    QTest::newRow("library") << true << "GL-5" << false << "" << false << "Target Library";
-    QTest::newRow("library, re-calibrated")
-        << true << "GL-5" << true << "" << false << "Target Library, re-calibrated";
-    QTest::newRow("sensor without hand-eye") << true << "GL-5" << true << "S" << false << "Optical";
-    QTest::newRow("sensor with hand-eye") << true << "" << false << "S" << true << "Full";
+    QTest::newRow("uncalibrated") << "lrsh"
+                                  << "not calibrated";
+    QTest::newRow("custom") << "c"
+                            << "Custom";
+    QTest::newRow("custom, re-calibrated") << "cr"
+                                           << "Custom, re-calibrated";
+    QTest::newRow("library") << "cl"
+                             << "Target Library";
+    QTest::newRow("library, re-calibrated") << "clr"
+                                            << "Target Library, re-calibrated";
+    QTest::newRow("sensor without hand-eye") << "clrs"
+                                             << "Optical";
+    QTest::newRow("sensor with hand-eye") << "csh"
+                                          << "Full";
 }
 
 void TestBodyLoader::calibrationText()
 {
-    QFETCH(bool, calibrated);
-    QFETCH(QString, library);
-    QFETCH(bool, recalibrated);
-    QFETCH(QString, sensor);
-    QFETCH(bool, handEye);
+    QFETCH(QString, state);
     QFETCH(QString, text);
 
     BodyRecord body;
-    body.calibrated = calibrated;
-    body.targetLibraryName = library;
-    body.recalibrated = recalibrated;
-    body.inertialSensor = sensor;
-    body.hybridCalibrated = handEye;
+    body.calibrated = state.contains('c');
+    body.targetLibraryName = state.contains('l') ? "GL-5" : "";
+    body.recalibrated = state.contains('r');
+    body.inertialSensor = state.contains('s') ? "S" : "";
+    body.hybridCalibrated = state.contains('h');
     QCOMPARE(BodyLoader::calibrationText(body), text);
 }
 
@@ -147,24 +138,16 @@ void TestBodyLoader::filterText_data()
     QTest::addColumn<QString>("preset");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("off") << "no"
-                         << "preset6d_std_custom"
-                         << "not active";
-    QTest::newRow("Yes is not yes") << "Yes"
-                                    << "preset6d_default"
-                                    << "not active";
-    QTest::newRow("predefined preset") << "yes"
-                                       << "preset6d_default"
-                                       << "Default";
-    QTest::newRow("custom") << "yes"
-                            << "preset6d_std_custom"
+    QTest::newRow("off") << QString("no") << QString("preset6d_std_custom") << "not active";
+    QTest::newRow("Yes is not yes")
+        << QString("Yes") << QString("preset6d_default") << "not active";
+    QTest::newRow("predefined preset")
+        << QString("yes") << QString("preset6d_default") << "Default";
+    QTest::newRow("custom") << QString("yes") << QString("preset6d_std_custom")
                             << "0.50/12ms/smooth";
-    QTest::newRow("custom hybrid") << "yes"
-                                   << "preset6d_hybrid_custom"
-                                   << "12ms/smooth";
-    QTest::newRow("custom needs both parts") << "yes"
-                                             << "preset6d_hybrid"
-                                             << "";
+    QTest::newRow("custom hybrid")
+        << QString("yes") << QString("preset6d_hybrid_custom") << "12ms/smooth";
+    QTest::newRow("custom needs both parts") << QString("yes") << QString("preset6d_hybrid") << "";
 }
 
 void TestBodyLoader::filterText()
@@ -196,22 +179,15 @@ void TestBodyLoader::reference_data()
     QTest::addColumn<int>("index");
     QTest::addColumn<bool>("reference");
 
-    QTest::newRow("b03 is index 2") << "standard b03"
-                                    << "standard" << 2 << true;
-    QTest::newRow("other body") << "standard b03"
-                                << "standard" << 1 << false;
-    QTest::newRow("three digits") << "standard b100"
-                                  << "standard" << 99 << true;
-    QTest::newRow("none") << "none"
-                          << "standard" << 0 << false;
-    QTest::newRow("one part only") << "standard"
-                                   << "standard" << 0 << false;
-    QTest::newRow("double blank keeps an empty part") << "standard  b01"
-                                                      << "standard" << 0 << false;
-    QTest::newRow("only standard bodies") << "gripwand b01"
-                                          << "gripwand" << 0 << false;
-    QTest::newRow("not for other types") << "standard b01"
-                                         << "gripwand" << 0 << false;
+    QTest::newRow("b03 is index 2") << QString("standard b03") << "standard" << 2 << true;
+    QTest::newRow("other body") << QString("standard b03") << "standard" << 1 << false;
+    QTest::newRow("three digits") << QString("standard b100") << "standard" << 99 << true;
+    QTest::newRow("none") << QString("none") << "standard" << 0 << false;
+    QTest::newRow("one part only") << QString("standard") << "standard" << 0 << false;
+    QTest::newRow("double blank keeps an empty part")
+        << QString("standard  b01") << "standard" << 0 << false;
+    QTest::newRow("only standard bodies") << QString("gripwand b01") << "gripwand" << 0 << false;
+    QTest::newRow("not for other types") << QString("standard b01") << "gripwand" << 0 << false;
 }
 
 void TestBodyLoader::reference()

@@ -1,0 +1,198 @@
+#ifndef BODYADMINFIXTURE_H
+#define BODYADMINFIXTURE_H
+
+#include "bodyadministrationdlg.h"
+#include "bodytypeadministrationtab.h"
+
+#include <modaldriver.h>
+#include <simulatedcontroller.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStyle>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QtTest>
+
+// The body administration dialog on the simulated controller's default
+// scenario, shown without its modal loop so that a test drives its widgets.
+// Standard bodies: b01 glasses from the library (re-calibrated), b02 the
+// reference (custom), b03 with an inertial sensor, b04 empty.
+class BodyAdminFixture
+{
+public:
+    using Log = sim::SimulatedController::LogEntry;
+
+    void init()
+    {
+        controller = new sim::SimulatedController;
+        controller->setManualClock(true);
+        driver = new ModalDriver;
+        QObject::connect(
+            controller, &sim::SimulatedController::logged, controller, [this](const Log &entry) {
+                if (entry.kind == Log::Message && entry.receiver == QLatin1String("standard"))
+                    events << "! " + entry.text;
+                else if ((entry.kind == Log::Setting || entry.kind == Log::Command)
+                    && entry.text != QLatin1String("velora2 targetlib check_custom_calibration"))
+                    events << entry.text;
+            });
+    }
+
+    BodyAdministrationDlg *build()
+    {
+        dialog = new BodyAdministrationDlg(controller, nullptr, &controller->backendVersions());
+        return dialog;
+    }
+
+    // A scenario change: "path = value" is set before the dialog opens,
+    // "@path = value" after it has read the controller, and "!pattern"
+    // makes every matching command fail from then on.
+    void setUp(const QStringList &changes) { m_changes = changes; }
+
+    // The dialog on the tab with this key, refreshed as a tab switch does.
+    BodyTypeAdministrationTab *open(int key = 0)
+    {
+        apply(QString());
+        if (!dialog)
+            build();
+        dialog->show();
+        auto *tabs = widget<QTabWidget>("tabWidget");
+        tab = dialog->tab(key);
+        if (tabs->currentWidget() == tab)
+            tab->update_tab();
+        else
+            tabs->setCurrentWidget(tab);
+        QApplication::processEvents();
+        apply("@");
+        apply("!");
+        clear();
+        return tab;
+    }
+
+    // One tick of the search timer as the event loop delivers it: the loop
+    // runs first, so the channel forgets what it read before the tick.
+    void searchTick()
+    {
+        QApplication::processEvents();
+        QMetaObject::invokeMethod(tab, "doMeasurement_tl");
+    }
+
+    // Closes what a failed test left open; true when no window remains.
+    bool cleanup()
+    {
+        ModalDriver::closeAllModals();
+        if (tab)
+            tab->about_to_exit();
+        delete driver;
+        delete dialog;
+        delete controller;
+        driver = nullptr;
+        dialog = nullptr;
+        tab = nullptr;
+        controller = nullptr;
+        return QApplication::topLevelWidgets().isEmpty();
+    }
+
+    // The open tab's widget of that name, else the dialog's.
+    template<typename W = QWidget> W *widget(const QString &name) const
+    {
+        W *found = tab ? tab->findChild<W *>(name) : nullptr;
+        return found ? found : dialog->findChild<W *>(name);
+    }
+    QTableWidget *table(const QString &name = "tableWidget_standard") const
+    {
+        return widget<QTableWidget>(name);
+    }
+    void clickButton(const QString &name) const
+    {
+        QTest::mouseClick(widget<QPushButton>(name), Qt::LeftButton);
+    }
+
+    // A click on the cell's centre, or on its check box where it has one.
+    static void click(QTableWidget *table, int row, int column, bool doubleClick = false)
+    {
+        const QTableWidgetItem *item = table->item(row, column);
+        QRect rect = table->visualItemRect(item);
+        if (item->data(Qt::CheckStateRole).isValid()) {
+            QStyleOptionViewItem option;
+            option.initFrom(table);
+            option.rect = rect;
+            option.features = QStyleOptionViewItem::HasCheckIndicator;
+            rect = table->style()->subElementRect(
+                QStyle::SE_ItemViewItemCheckIndicator, &option, table);
+        }
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, rect.center());
+        if (doubleClick)
+            QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, rect.center());
+    }
+    // Moves to the cell as the keyboard would (the table has the focus).
+    static void go(QTableWidget *table, int row, int column)
+    {
+        table->setFocus();
+        table->setCurrentCell(row, column);
+    }
+
+    void clear()
+    {
+        controller->clearLog();
+        events.clear();
+    }
+
+    // The next boxes are answered with these buttons, any further one
+    // positively (Yes, else Ok) so that no test hangs on a surprise. Each
+    // box goes into the events as "? text|informative text".
+    void answer(const QList<int> &buttons = {})
+    {
+        for (int i = 0; i < buttons.size() + 4; ++i) {
+            const int button = buttons.value(i, 0);
+            driver->answer([this, button](QWidget *modal) {
+                auto *box = qobject_cast<QMessageBox *>(modal);
+                if (!box)
+                    return static_cast<QDialog *>(modal)->reject();
+                events << "? " + box->text()
+                        + (box->informativeText().isEmpty() ? "" : "|" + box->informativeText());
+                QAbstractButton *chosen = box->button(QMessageBox::StandardButton(button));
+                if (!chosen)
+                    chosen = box->button(QMessageBox::Yes);
+                if (!chosen)
+                    chosen = box->button(QMessageBox::Ok);
+                chosen->click();
+            });
+        }
+    }
+    // A list written as "a | b | c".
+    static QStringList L(const char *items)
+    {
+        return QString::fromUtf8(items).split(" | ", Qt::SkipEmptyParts);
+    }
+    void apply(const QString &kind)
+    {
+        for (const QString &change : qAsConst(m_changes)) {
+            if (kind == "!" && change.startsWith('!'))
+                controller->failCommand(change.mid(1));
+            else if (change.startsWith(kind)
+                && (!kind.isEmpty() || !change.contains(QRegExp("^[@!]"))))
+                controller->setValue(
+                    change.mid(kind.size()).section(" = ", 0, 0), change.section(" = ", 1));
+        }
+    }
+
+    // What the user saw and the controller got, in order: "? " a box,
+    // "! " a report to the message log, else a setting or meta command.
+    QStringList events;
+    sim::SimulatedController *controller = nullptr;
+    BodyAdministrationDlg *dialog = nullptr;
+    BodyTypeAdministrationTab *tab = nullptr;
+    ModalDriver *driver = nullptr;
+
+private:
+    QStringList m_changes;
+};
+
+#define FIXTURE_CLEANUP(fixture)                                                                   \
+    QVERIFY2(fixture.cleanup(), qPrintable(ModalDriver::topLevelWidgetNames().join(", ")))
+
+#endif // BODYADMINFIXTURE_H
