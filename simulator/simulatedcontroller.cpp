@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QPair>
+#include <QPointer>
 #include <QThread>
 
 #include <cstdarg>
@@ -124,7 +125,19 @@ public:
     FaultInjector injector;
     BackendVersions versions;
     QList<LogEntry> log;
-    QList<QPair<QString, MessageReceiver *>> receivers;
+    struct Registration {
+        QString name;
+        MessageReceiver *receiver;
+        // Set for receivers that are QObjects: a host would call freed
+        // memory if one is destroyed while still registered.
+        QPointer<QObject> object;
+        bool isObject;
+        bool operator==(const Registration &other) const
+        {
+            return name == other.name && receiver == other.receiver;
+        }
+    };
+    QList<Registration> receivers;
     int latency = 0;
     int replyTimeout = 0;
 };
@@ -231,7 +244,7 @@ void SimulatedController::Private::record(LogEntry entry)
 bool SimulatedController::Private::isRegistered(
     const QString &name, MessageReceiver *receiver) const
 {
-    return receivers.contains(qMakePair(name, receiver));
+    return receivers.contains({ name, receiver, nullptr, false });
 }
 
 // The two names of a type's count must agree, or the module would see two
@@ -543,10 +556,15 @@ void SimulatedController::sendMessage(
 
     // A receiver may leave (or make another leave) while it is being
     // called; only those still registered get the message.
-    const QList<QPair<QString, MessageReceiver *>> receivers = d->receivers;
-    for (const auto &registration : receivers) {
-        if (registration.first == name && d->isRegistered(name, registration.second))
-            registration.second->receiveMessage(receiver, sender, text);
+    const QList<Private::Registration> receivers = d->receivers;
+    for (const Private::Registration &registration : receivers) {
+        if (registration.name != name || !d->isRegistered(name, registration.receiver))
+            continue;
+        if (registration.isObject && !registration.object)
+            qFatal("Message \"%s\" to \"%s\" for a receiver that was destroyed while "
+                   "registered",
+                text ? text : "", receiver);
+        registration.receiver->receiveMessage(receiver, sender, text);
     }
 }
 
@@ -558,8 +576,10 @@ void SimulatedController::registerReceiver(const char *name, MessageReceiver *re
     entry.operation = QStringLiteral("registerReceiver");
     entry.receiver = receiverName;
     d->record(entry);
-    if (receiver && !d->isRegistered(receiverName, receiver))
-        d->receivers.append(qMakePair(receiverName, receiver));
+    if (receiver && !d->isRegistered(receiverName, receiver)) {
+        QObject *object = dynamic_cast<QObject *>(receiver);
+        d->receivers.append({ receiverName, receiver, object, object != nullptr });
+    }
 }
 
 void SimulatedController::unregisterReceiver(const char *name, MessageReceiver *receiver)
@@ -570,7 +590,7 @@ void SimulatedController::unregisterReceiver(const char *name, MessageReceiver *
     entry.operation = QStringLiteral("unregisterReceiver");
     entry.receiver = receiverName;
     d->record(entry);
-    d->receivers.removeAll(qMakePair(receiverName, receiver));
+    d->receivers.removeAll({ receiverName, receiver, nullptr, false });
 }
 
 bool SimulatedController::takeScenarioLine(const QString &line, QString *error)

@@ -83,6 +83,9 @@ BodyAdministrationDlg::BodyAdministrationDlg(
 
 BodyAdministrationDlg::~BodyAdministrationDlg()
 {
+    // The host would otherwise deliver the next message to a freed receiver
+    // when it was deleted without the module's shutdown() first.
+    unsubscribe();
     delete form;
 }
 

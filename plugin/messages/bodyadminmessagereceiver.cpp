@@ -34,10 +34,14 @@ void BodyAdminMessageReceiver::subscribe(const CommandChannel &channel)
 {
     channel.registerReceiver(GlobalEventName, this);
     channel.registerReceiver(ModuleName, this);
+    subscribed = true;
 }
 
 void BodyAdminMessageReceiver::unsubscribe(const CommandChannel &channel)
 {
+    if (!subscribed)
+        return;
+    subscribed = false;
     channel.unregisterReceiver(ModuleName, this);
     channel.unregisterReceiver(GlobalEventName, this);
 }

@@ -22,7 +22,7 @@ public:
     int receiveMessage(const char *receiver, const char *sender, const char *text) override;
 
     // Subscribes under "GlobalEvent" and "BodyAdministrationModule", and
-    // leaves them in the opposite order.
+    // leaves them in the opposite order; leaving twice sends nothing more.
     void subscribe(const CommandChannel &channel);
     void unsubscribe(const CommandChannel &channel);
 
@@ -31,6 +31,9 @@ signals:
     void BodyAdjustmentAvailable();
     void dialogReopen();
     void activeConfigurationChanged();
+
+private:
+    bool subscribed = false;
 };
 
 #endif // TRACKING_BODYADMINMESSAGERECEIVER_H

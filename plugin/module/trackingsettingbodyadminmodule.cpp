@@ -59,17 +59,20 @@ TrackingSettingBodyAdminModule::TrackingSettingBodyAdminModule() = default;
 // The dialogs are the host's to release through cleanup().
 TrackingSettingBodyAdminModule::~TrackingSettingBodyAdminModule() = default;
 
+// Hosts call shutdown(), cleanup() and menuEntries() in any order and more
+// than once: the dialog leaves the message service at most once, itself
+// when it is deleted.
 void TrackingSettingBodyAdminModule::shutdown()
 {
-    if (auto *dialog = static_cast<BodyAdministrationDlg *>(bodyAdministrationEntry.dialog))
+    if (auto *dialog = qobject_cast<BodyAdministrationDlg *>(adminDialog.data()))
         dialog->unsubscribe();
 }
 
 void TrackingSettingBodyAdminModule::cleanup()
 {
-    delete singleMarkersEntry.dialog;
+    delete trackingDialog.data();
     singleMarkersEntry.dialog = nullptr;
-    delete bodyAdministrationEntry.dialog;
+    delete adminDialog.data();
     bodyAdministrationEntry.dialog = nullptr;
     entries.clear();
 }
@@ -91,32 +94,32 @@ QList<MenuEntry *> TrackingSettingBodyAdminModule::menuEntries()
 
     // After a cleanup() the actions are still in the host's menus: keep them
     // and connect them to the new dialogs.
-    auto *trackingDialog
-        = new TrackingDlg(ioManager, moduleParent, backendVersions, moduleVersion());
+    auto *tracking = new TrackingDlg(ioManager, moduleParent, backendVersions, moduleVersion());
+    trackingDialog = tracking;
     QAction *singleMarkers
         = singleMarkersEntry.action ? singleMarkersEntry.action : new QAction(this);
-    fillEntry(
-        singleMarkersEntry, singleMarkers, SingleMarkersPosition, trackingDialog, tr("&Tracking"));
+    fillEntry(singleMarkersEntry, singleMarkers, SingleMarkersPosition, tracking, tr("&Tracking"));
     const QString singleMarkersHelp = tr("Change settings of the 6DOF standard bodies and the 3DOF "
                                          "markers and body administration");
     singleMarkers->setText(tr("&Single markers"));
     singleMarkers->setStatusTip(singleMarkersHelp);
     singleMarkers->setWhatsThis(singleMarkersHelp);
-    connect(singleMarkers, &QAction::triggered, trackingDialog, &TrackingDlg::update_and_exec);
+    connect(singleMarkers, &QAction::triggered, tracking, &TrackingDlg::update_and_exec);
     entries.append(&singleMarkersEntry);
 
-    auto *adminDialog = new BodyAdministrationDlg(ioManager, moduleParent, backendVersions);
+    auto *admin = new BodyAdministrationDlg(ioManager, moduleParent, backendVersions);
+    adminDialog = admin;
     QAction *bodyAdministration
         = bodyAdministrationEntry.action ? bodyAdministrationEntry.action : new QAction(this);
-    fillEntry(bodyAdministrationEntry, bodyAdministration, BodyAdministrationPosition, adminDialog,
+    fillEntry(bodyAdministrationEntry, bodyAdministration, BodyAdministrationPosition, admin,
         tr("&Tracking"));
     const QString bodyAdministrationHelp = tr("Settings of all bodies");
     bodyAdministration->setText(tr("&Body administration"));
     bodyAdministration->setShortcut(QKeySequence(tr("F8")));
     bodyAdministration->setStatusTip(bodyAdministrationHelp);
     bodyAdministration->setWhatsThis(bodyAdministrationHelp);
-    connect(bodyAdministration, &QAction::triggered, adminDialog,
-        &BodyAdministrationDlg::update_and_exec);
+    connect(
+        bodyAdministration, &QAction::triggered, admin, &BodyAdministrationDlg::update_and_exec);
     entries.append(&bodyAdministrationEntry);
 
     return entries;

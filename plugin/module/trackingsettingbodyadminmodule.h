@@ -27,6 +27,7 @@
     }
 
 class IOManager;
+class QDialog;
 class QWidget;
 struct BackendVersions;
 
@@ -63,6 +64,10 @@ private:
     IOManager *ioManager = nullptr;
     BackendVersions *backendVersions = nullptr;
     bool observerMode = false;
+    // The dialogs are children of the host's widget, which may delete them
+    // before cleanup() does.
+    QPointer<QDialog> trackingDialog;
+    QPointer<QDialog> adminDialog;
 };
 
 #endif // TRACKING_TRACKINGSETTINGBODYADMINMODULE_H

@@ -21,29 +21,30 @@ void ModalDriver::answer(Action action)
     m_timer.start();
 }
 
+namespace
+{
+// The button with that standard role of a message box, else reject(), else close().
+void dismiss(QWidget *modal, int standardButton = QMessageBox::NoButton)
+{
+    auto *box = qobject_cast<QMessageBox *>(modal);
+    if (QAbstractButton *button
+        = box ? box->button(QMessageBox::StandardButton(standardButton)) : nullptr)
+        button->click();
+    else if (auto *dialog = qobject_cast<QDialog *>(modal))
+        dialog->reject();
+    else
+        modal->close();
+}
+} // namespace
+
 void ModalDriver::pressButton(int standardButton)
 {
-    answer([standardButton](QWidget *modal) {
-        auto *box = qobject_cast<QMessageBox *>(modal);
-        QAbstractButton *button
-            = box ? box->button(QMessageBox::StandardButton(standardButton)) : nullptr;
-        if (button)
-            button->click();
-        else if (auto *dialog = qobject_cast<QDialog *>(modal))
-            dialog->reject();
-        else
-            modal->close();
-    });
+    answer([standardButton](QWidget *modal) { dismiss(modal, standardButton); });
 }
 
 void ModalDriver::reject()
 {
-    answer([](QWidget *modal) {
-        if (auto *dialog = qobject_cast<QDialog *>(modal))
-            dialog->reject();
-        else
-            modal->close();
-    });
+    answer([](QWidget *modal) { dismiss(modal); });
 }
 
 void ModalDriver::poll()
@@ -86,10 +87,7 @@ bool ModalDriver::eventFilter(QObject *watched, QEvent *event)
 void ModalDriver::closeAllModals()
 {
     while (QWidget *modal = QApplication::activeModalWidget()) {
-        if (auto *dialog = qobject_cast<QDialog *>(modal))
-            dialog->reject();
-        else
-            modal->close();
+        dismiss(modal);
         QApplication::processEvents();
         if (QApplication::activeModalWidget() == modal)
             break;

@@ -5,15 +5,22 @@
 
 #include <simulatedcontroller.h>
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
+
+#include <array>
 
 // Small helpers the widget tests share; header-only so that a test links
 // nothing beyond what it already uses.
 namespace testkit
 {
+
+// The columns of a _data() table in one line: columns<int, QString>({ "a", "b" }).
+template<typename... T> void columns(const std::array<const char *, sizeof...(T)> &names)
+{
+    int i = 0;
+    (QTest::addColumn<T>(names[i++]), ...);
+}
 
 template<typename T = QWidget> T *child(const QObject *parent, const char *name)
 {
@@ -75,6 +82,7 @@ inline void apply(sim::SimulatedController &controller, const QString &changes)
 inline void closeAllAndCheck()
 {
     ModalDriver::closeAllModals();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY2(QApplication::topLevelWidgets().isEmpty(),
         qPrintable(ModalDriver::topLevelWidgetNames().join(", ")));
 }

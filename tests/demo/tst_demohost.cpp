@@ -8,21 +8,12 @@
 #include "simulatorlogmodel.h"
 #include "standinmodules.h"
 
-#include <modaldriver.h>
 #include <moduleinterface.h>
-#include <simulatedcontroller.h>
 
-#include <QAction>
-#include <QDialog>
 #include <QDomDocument>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
 #include <QRegularExpression>
-#include <QScrollBar>
-#include <QTableView>
 #include <QTemporaryDir>
-#include <QtTest>
+#include <testkit.h>
 
 #include <algorithm>
 
@@ -85,360 +76,310 @@ class TestDemoHost : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup();
-    void loadsPlugin_data();
-    void loadsPlugin();
-    void standInAnswersHandOver_data();
-    void standInAnswersHandOver();
-    void parsesOptions_data();
-    void parsesOptions();
-    void rendersEveryDialogWithoutAcceleratorClash_data();
-    void rendersEveryDialogWithoutAcceleratorClash();
-    void translationsAreFinished();
-    void marksFailuresAndErrorReports();
-    void filters_data();
-    void filters();
-    void followsTailOnlyAtBottom();
-    void staysUsableWhileModuleDialogRuns();
-    void consoleLinesSurviveSavedScenario();
-};
-
-void TestDemoHost::cleanup()
-{
-    ModalDriver::closeAllModals();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const QStringList left = ModalDriver::topLevelWidgetNames();
-    QVERIFY2(left.isEmpty(), qPrintable(left.join(", ")));
-}
-
-void TestDemoHost::loadsPlugin_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QStringList>("fragments"); // of the explanation; none when it loads
-    QTest::newRow("built plug-in") << QString() << QStringList();
-    QTest::newRow("missing file") << "no/such/libtracking.so"
-                                  << QStringList { "Reason: The shared library was not found.",
-                                         "No plug-in metadata" };
-    QTest::newRow("object is no module")
-        << NOT_A_MODULE_PLUGIN
-        << QStringList { "class NotAModule", "not a ModuleInterface \"" ModuleInterface_iid "\"",
-               "NotAModule (expected TrackingSettingBodyAdminModule)  <- differs" };
-}
-
-void TestDemoHost::loadsPlugin()
-{
-    QFETCH(QString, path);
-    QFETCH(QStringList, fragments);
-    DemoOptions options;
-    options.pluginPath = path;
-    DemoWindow window(options);
-    const QString tracking = "&Tracking[&Single markers,&Body administration] ";
-    QCOMPARE(menuLayout(*window.menuBar()),
-        "&File[Save &log...,Save &scenario...,&Quit] &View[Controller &log] "
-        "&Configuration[Active configuration &changed] "
-            + (path.isEmpty() ? tracking : QString()) + "&Help[&About]");
-    if (!path.isEmpty()) {
-        for (const QString &fragment :
-            fragments + QStringList { QFileInfo(path).absoluteFilePath(), "QT_DEBUG_PLUGINS" })
-            QVERIFY2(window.loadError().contains(fragment), qPrintable(window.loadError()));
-        // No module, so nobody to announce anything to.
-        QVERIFY(window.controller()->messages().isEmpty());
-        return;
+    void cleanup() { testkit::closeAllAndCheck(); }
+    void loadsPlugin_data()
+    {
+        // fragments: of the explanation; none when it loads
+        testkit::columns<QString, QStringList>({ "path", "fragments" });
+        // clang-format off
+        QTest::newRow("built plug-in") << QString() << QStringList();
+        QTest::newRow("missing file") << "no/such/libtracking.so" << QStringList { "Reason: The shared library was not found.", "No plug-in metadata" };
+        QTest::newRow("object is no module") << NOT_A_MODULE_PLUGIN << QStringList { "class NotAModule", "not a ModuleInterface \"" ModuleInterface_iid "\"", "NotAModule (expected TrackingSettingBodyAdminModule)  <- differs" };
+        // clang-format on
     }
-    QCOMPARE(window.moduleActions().at(1)->shortcut(), QKeySequence(Qt::Key_F8));
-    // The other modules announce themselves only once the module has its receiver up.
-    QVERIFY(window.controller()->messages().contains("bodycalibration available"));
-    window.close(); // hands the module its last calls and unloads it
-    QVERIFY(!window.module());
-}
-
-void TestDemoHost::standInAnswersHandOver_data()
-{
-    QTest::addColumn<QString>("module");
-    QTest::addColumn<QString>("request");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("body calibration") << "BodyCalModule"
-                                      << "OpenBodyCalDialog standard b01"
-                                      << "Simulated body calibration of standard b01.";
-    QTest::newRow("hybrid calibration")
-        << "HybridBodyCalibration"
-        << "OpenHybridBodyCalibration gripwand|3|not calibrated"
-        << "Simulated hybrid body calibration of gripwand body 3 (not calibrated).";
-}
-
-void TestDemoHost::standInAnswersHandOver()
-{
-    QFETCH(QString, module);
-    QFETCH(QString, request);
-    sim::SimulatedController controller;
-    StandInModules standIns(&controller, nullptr);
-    ModalDriver driver;
-    driver.pressButton(QMessageBox::Ok);
-    controller.sendMessage(qPrintable(module), "BodyAdministrationModule", 1, qPrintable(request));
-    // Never while the request is still being delivered.
-    QVERIFY(!controller.messages().contains("reopen"));
-    QTRY_VERIFY(controller.messages().contains("reopen"));
-    QTEST(driver.seen().value(0).text.section('\n', 0, 0), "shown");
-    const sim::SimulatedController::LogEntry &reply = controller.log().last();
-    QCOMPARE(reply.receiver + ' ' + reply.sender, "BodyAdministrationModule " + module);
-}
-
-void TestDemoHost::parsesOptions_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("outcome");
-    QTest::addColumn<QString>("parsed"); // backend/system version/plug-in, "-" when not given
-
-    const int run = DemoOptions::Run, error = DemoOptions::Error;
-    QTest::newRow("defaults") << QStringList() << run << "-/-/";
-    QTest::newRow("between-releases patch, plug-in") << QStringList { "--backend-version", "1.9.-1",
-        "--plugin", "a.so" } << run << "1.9.-1/-/a.so";
-    QTest::newRow("both versions, built-in scenario") << QStringList { "--backend-version=2.0.0",
-        "--system-version", "2.10.0", "--scenario", "locked" }
-                                                      << run << "2.0.0/2.10.0/";
-    QTest::newRow("two-part version") << QStringList { "--backend-version", "1.9" } << error << "";
-    QTest::newRow("missing scenario") << QStringList { "--scenario", "no-such.scn" } << error << "";
-    QTest::newRow("unknown option") << QStringList { "--screenshot", "x.png" } << error << "";
-    QTest::newRow("help") << QStringList { "--help" } << int(DemoOptions::ShowHelp) << "";
-}
-
-void TestDemoHost::parsesOptions()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, outcome);
-    // Qt takes "-plugin" for itself, so the demo reads it off argv first.
-    QList<QByteArray> storage { "velora-demo" };
-    QVector<char *> argv;
-    for (const QString &argument : arguments)
-        storage << argument.toLocal8Bit();
-    for (QByteArray &argument : storage)
-        argv << argument.data();
-    argv << nullptr;
-    int argc = storage.size();
-    const QStringList all = DemoOptions::takeArguments(argc, argv.data());
-    for (int i = 0; i <= argc; ++i)
-        QVERIFY(i < argc ? QByteArray(argv.at(i)) != "--plugin" : !argv.at(i));
-    DemoOptions options;
-    QString message;
-    QCOMPARE(int(DemoOptions::parse(all, &options, &message)), outcome);
-    for (const char *option : { "--scenario", "--render", "--check", "--log", "--save-scenario" })
-        QVERIFY(outcome != DemoOptions::ShowHelp || message.contains(option));
-    if (outcome != DemoOptions::Run) {
-        QVERIFY(!message.isEmpty());
-        return;
+    void loadsPlugin()
+    {
+        QFETCH(QString, path);
+        QFETCH(QStringList, fragments);
+        DemoOptions options;
+        options.pluginPath = path;
+        DemoWindow window(options);
+        const QString tracking = "&Tracking[&Single markers,&Body administration] ";
+        QCOMPARE(menuLayout(*window.menuBar()),
+            "&File[Save &log...,Save &scenario...,&Quit] &View[Controller &log] "
+            "&Configuration[Active configuration &changed] "
+                + (path.isEmpty() ? tracking : QString()) + "&Help[&About]");
+        if (!path.isEmpty()) {
+            for (const QString &fragment :
+                fragments + QStringList { QFileInfo(path).absoluteFilePath(), "QT_DEBUG_PLUGINS" })
+                QVERIFY2(window.loadError().contains(fragment), qPrintable(window.loadError()));
+            // No module, so nobody to announce anything to.
+            QVERIFY(window.controller()->messages().isEmpty());
+            return;
+        }
+        QCOMPARE(window.moduleActions().at(1)->shortcut(), QKeySequence(Qt::Key_F8));
+        // The other modules announce themselves only once the module has its receiver up.
+        QVERIFY(window.controller()->messages().contains("bodycalibration available"));
+        window.close(); // hands the module its last calls and unloads it
+        QVERIFY(!window.module());
     }
-    const auto text = [](bool given, const BackendVersions::Version &v) {
-        return given ? DemoOptions::versionText(v) : QStringLiteral("-");
-    };
-    QTEST(text(options.hasBackendVersion, options.backendVersion) + '/'
-            + text(options.hasSystemVersion, options.systemVersion) + '/' + options.pluginPath,
-        "parsed");
-}
+    void standInAnswersHandOver_data()
+    {
+        testkit::columns<QString, QString, QString>({ "module", "request", "shown" });
+        // clang-format off
+        QTest::newRow("body calibration") << "BodyCalModule" << "OpenBodyCalDialog standard b01" << "Simulated body calibration of standard b01.";
+        QTest::newRow("hybrid calibration") << "HybridBodyCalibration" << "OpenHybridBodyCalibration gripwand|3|not calibrated" << "Simulated hybrid body calibration of gripwand body 3 (not calibrated).";
+        // clang-format on
+    }
+    void standInAnswersHandOver()
+    {
+        QFETCH(QString, module);
+        QFETCH(QString, request);
+        sim::SimulatedController controller;
+        StandInModules standIns(&controller, nullptr);
+        ModalDriver driver;
+        driver.pressButton(QMessageBox::Ok);
+        controller.sendMessage(
+            qPrintable(module), "BodyAdministrationModule", 1, qPrintable(request));
+        // Never while the request is still being delivered.
+        QVERIFY(!controller.messages().contains("reopen"));
+        QTRY_VERIFY(controller.messages().contains("reopen"));
+        QTEST(driver.seen().value(0).text.section('\n', 0, 0), "shown");
+        const sim::SimulatedController::LogEntry &reply = controller.log().last();
+        QCOMPARE(reply.receiver + ' ' + reply.sender, "BodyAdministrationModule " + module);
+    }
+    void parsesOptions_data()
+    {
+        // parsed: backend/system version/plug-in, "-" when not given
+        testkit::columns<QStringList, int, QString>({ "arguments", "outcome", "parsed" });
 
-void TestDemoHost::rendersEveryDialogWithoutAcceleratorClash_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::newRow("English") << QString();
-    QTest::newRow("German") << QStringLiteral("de");
-}
+        const int run = DemoOptions::Run, error = DemoOptions::Error;
+        // clang-format off
+        QTest::newRow("defaults") << QStringList() << run << "-/-/";
+        QTest::newRow("between-releases patch, plug-in") << QStringList { "--backend-version", "1.9.-1", "--plugin", "a.so" } << run << "1.9.-1/-/a.so";
+        QTest::newRow("both versions, built-in scenario") << QStringList { "--backend-version=2.0.0", "--system-version", "2.10.0", "--scenario", "locked" } << run << "2.0.0/2.10.0/";
+        QTest::newRow("two-part version") << QStringList { "--backend-version", "1.9" } << error << "";
+        QTest::newRow("missing scenario") << QStringList { "--scenario", "no-such.scn" } << error << "";
+        QTest::newRow("unknown option") << QStringList { "--screenshot", "x.png" } << error << "";
+        QTest::newRow("help") << QStringList { "--help" } << int(DemoOptions::ShowHelp) << "";
+        // clang-format on
+    }
+    void parsesOptions()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, outcome);
+        // Qt takes "-plugin" for itself, so the demo reads it off argv first.
+        QList<QByteArray> storage { "velora-demo" };
+        for (const QString &argument : arguments)
+            storage << argument.toLocal8Bit();
+        QVector<char *> argv;
+        std::transform(storage.begin(), storage.end(), std::back_inserter(argv),
+            [](QByteArray &argument) { return argument.data(); });
+        int argc = storage.size();
+        argv << nullptr;
+        const QStringList all = DemoOptions::takeArguments(argc, argv.data());
+        for (int i = 0; i <= argc; ++i)
+            QVERIFY(i < argc ? QByteArray(argv.at(i)) != "--plugin" : !argv.at(i));
+        DemoOptions options;
+        QString message;
+        QCOMPARE(int(DemoOptions::parse(all, &options, &message)), outcome);
+        for (const char *option :
+            { "--scenario", "--render", "--check", "--log", "--save-scenario" })
+            QVERIFY(outcome != DemoOptions::ShowHelp || message.contains(option));
+        QCOMPARE(message.isEmpty(), outcome == DemoOptions::Run);
+        if (outcome != DemoOptions::Run)
+            return;
+        const auto text = [](bool given, const BackendVersions::Version &v) {
+            return given ? DemoOptions::versionText(v) : QStringLiteral("-");
+        };
+        QTEST(text(options.hasBackendVersion, options.backendVersion) + '/'
+                + text(options.hasSystemVersion, options.systemVersion) + '/' + options.pluginPath,
+            "parsed");
+    }
+    void rendersEveryDialogWithoutAcceleratorClash_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("English") << QString();
+        QTest::newRow("German") << QStringLiteral("de");
+    }
+    void rendersEveryDialogWithoutAcceleratorClash()
+    {
+        QFETCH(QString, language);
+        QObject translators;
+        if (!language.isEmpty())
+            QCOMPARE(DemoOptions::installTranslations(language, &translators), QStringList());
+        // Qt's own, so that standard buttons follow.
+        QVERIFY(
+            language.isEmpty() || QCoreApplication::translate("QPlatformTheme", "&Yes") == "&Ja");
+        QTemporaryDir folder;
+        DialogRenderer renderer(folder.path());
+        QStringList names;
+        {
+            DemoWindow window { DemoOptions() };
+            window.show();
+            for (const QString &file : renderer.render(window.moduleActions(), { &window }))
+                names << QFileInfo(file).completeBaseName();
+            window.close();
+        }
+        QVERIFY2(renderer.problems().isEmpty(), qPrintable(renderer.problems().join('\n')));
+        QVERIFY2(renderer.clashes().isEmpty(), qPrintable(renderer.clashes().join('\n')));
+        QCOMPARE(names.join(' '),
+            QStringLiteral(
+                "trackingdlg fixedangledlg helpdialog "
+                "bodyadministrationdlg-standard filterdialog filterhelp "
+                "bodyadministrationdlg-gripwand "
+                "bodyadministrationdlg-fingertracking bodyadministrationdlg-mt demo-host"));
+        QCOMPARE(AcceleratorCheck::letter("Save && &quit"), QChar('Q'));
+    }
+    // Shipped translations are complete, carry nothing obsolete, and keep every
+    // placeholder of their source.
+    void translationsAreFinished()
+    {
+        for (const QString name : { "tracking_de.ts", "velora-demo_de.ts" }) {
+            QFile file(TRACKING_TS_DIR "/" + name);
+            QDomDocument document;
+            QVERIFY2(
+                file.open(QIODevice::ReadOnly) && document.setContent(&file), qPrintable(name));
+            const QDomNodeList messages = document.elementsByTagName("message");
+            QVERIFY(messages.size() > 100);
+            QStringList wrong;
+            for (int i = 0; i < messages.size(); ++i) {
+                const QString source = messages.at(i).firstChildElement("source").text();
+                const QDomElement translation = messages.at(i).firstChildElement("translation");
+                if (translation.hasAttribute("type") || translation.text().isEmpty()
+                    || placeholders(source) != placeholders(translation.text()))
+                    wrong << source;
+            }
+            QVERIFY2(wrong.isEmpty(), qPrintable(name + ": " + wrong.join(" | ")));
+        }
+    }
+    // Each row goes to the log file as it happens, and Save writes the same lines.
+    void marksFailuresAndErrorReports()
+    {
+        QTemporaryDir dir;
+        SimulatorLogModel model;
+        QString error;
+        QVERIFY(model.setLogFile(dir.filePath("live.log"), &error));
+        fill(&model);
+        QFile live(dir.filePath("live.log"));
+        QVERIFY(live.open(QIODevice::ReadOnly));
+        const QStringList lines = QString::fromUtf8(live.readAll()).split('\n', Qt::SkipEmptyParts);
+        QStringList marked;
+        for (const QString &line : lines)
+            marked << line.section('\t', 2, 2) + (line.endsWith("\tFAILED") ? "!" : "");
+        QCOMPARE(marked,
+            QStringList({ "status active", "standard number_of_bodies x!",
+                "VELORA4 \u2192 standard: Error: Unable to get group name!",
+                "VELORA4 \u2192 standard: t04 already calibrated",
+                "VELORA4 \u2192 BodyCalModule: OpenBodyCalDialog standard b01" }));
+        QVERIFY(QTime::fromString(lines.first().section('\t', 0, 0), "HH:mm:ss.zzz").isValid());
+        QCOMPARE(lines.first().section('\t', 3, 4), QStringLiteral("none\t0"));
+        QVERIFY(model.save(dir.filePath("saved.log"), &error));
+        QFile saved(dir.filePath("saved.log"));
+        QVERIFY(saved.open(QIODevice::ReadOnly)
+            && saved.readAll() == (lines.join('\n') + '\n').toUtf8());
+        QVERIFY(!model.save(dir.filePath("no/such/folder/x.log"), &error));
+        QVERIFY(error.contains("no/such/folder"));
+    }
+    void filters_data()
+    {
+        testkit::columns<int, QString, QStringList>({ "show", "text", "shown" });
 
-void TestDemoHost::rendersEveryDialogWithoutAcceleratorClash()
-{
-    QFETCH(QString, language);
-    QObject translators;
-    if (!language.isEmpty())
-        QCOMPARE(DemoOptions::installTranslations(language, &translators), QStringList());
-    // Qt's own, so that standard buttons follow.
-    QVERIFY(language.isEmpty() || QCoreApplication::translate("QPlatformTheme", "&Yes") == "&Ja");
-    QTemporaryDir folder;
-    DialogRenderer renderer(folder.path());
-    QStringList names;
+        // clang-format off
+        QTest::newRow("calls") << int(LogFilter::Calls) << QString() << QStringList { "status active", "standard number_of_bodies x" };
+        QTest::newRow("failures") << int(LogFilter::Failures) << QString() << QStringList { "standard number_of_bodies x", "Error: Unable to get group name" };
+        QTest::newRow("messages with text, any case") << int(LogFilter::Messages) << "STANDARD b01" << QStringList { "OpenBodyCalDialog standard b01" };
+        QTest::newRow("text in the reply") << int(LogFilter::All) << "none" << QStringList { "status active" };
+        // clang-format on
+    }
+    void filters()
+    {
+        QFETCH(int, show);
+        QFETCH(QString, text);
+        SimulatorLogModel model;
+        fill(&model);
+        LogFilter filter;
+        filter.setSourceModel(&model);
+        filter.setShow(LogFilter::Show(show));
+        filter.setFilterFixedString(text);
+        QTEST(texts(filter), "shown");
+    }
+    void followsTailOnlyAtBottom()
+    {
+        SimulatorLogModel model;
+        LogWindow window(&model);
+        window.resize(400, 200);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QScrollBar *bar = window.view()->verticalScrollBar();
+        LogEntry row;
+        for (int i = 0; i < 100; ++i)
+            model.append(row);
+        QTRY_VERIFY(bar->maximum() > 0);
+        QTRY_COMPARE(bar->value(), bar->maximum());
+
+        // Someone reading older rows is not yanked away by new ones.
+        window.view()->scrollToTop();
+        model.append(row);
+        QCoreApplication::processEvents();
+        QCOMPARE(bar->value(), 0);
+    }
+    // Qt blocks every window but the modal dialog and its transient children;
+    // the log window must be one of those.
+    void staysUsableWhileModuleDialogRuns()
     {
         DemoWindow window { DemoOptions() };
         window.show();
-        for (const QString &file : renderer.render(window.moduleActions(), { &window }))
-            names << QFileInfo(file).completeBaseName();
+        window.logWindow()->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.logWindow()));
+        QTableView *view = window.logWindow()->view();
+        QVERIFY(view->model()->rowCount() > 2);
+        int clicked = -1, currentRow = -2;
+        ModalDriver driver;
+        driver.answer([&](QWidget *modal) {
+            clicked = view->model()->rowCount() - 2;
+            const QModelIndex target = view->model()->index(clicked, 1);
+            view->scrollTo(target);
+            // Through the window system's path, where Qt applies modality.
+            const QPoint at
+                = view->viewport()->mapTo(view->window(), view->visualRect(target).center());
+            QTest::mouseClick(view->window()->windowHandle(), Qt::LeftButton, {}, at);
+            currentRow = view->currentIndex().row();
+            static_cast<QDialog *>(modal)->reject();
+        });
+        window.moduleActions().at(1)->trigger(); // body administration
+        QCOMPARE(driver.pending(), 0);
+        QCOMPARE(currentRow, clicked);
         window.close();
     }
-    QVERIFY2(renderer.problems().isEmpty(), qPrintable(renderer.problems().join('\n')));
-    QVERIFY2(renderer.clashes().isEmpty(), qPrintable(renderer.clashes().join('\n')));
-    QCOMPARE(names.join(' '),
-        QStringLiteral(
-            "trackingdlg fixedangledlg helpdialog "
-            "bodyadministrationdlg-standard filterdialog filterhelp bodyadministrationdlg-gripwand "
-            "bodyadministrationdlg-fingertracking bodyadministrationdlg-mt demo-host"));
-    QCOMPARE(AcceleratorCheck::letter("Save && &quit"), QChar('Q'));
-}
-
-// Shipped translations are complete, carry nothing obsolete, and keep every
-// placeholder of their source.
-void TestDemoHost::translationsAreFinished()
-{
-    for (const QString name : { "tracking_de.ts", "velora-demo_de.ts" }) {
-        QFile file(TRACKING_TS_DIR "/" + name);
-        QDomDocument document;
-        QVERIFY2(file.open(QIODevice::ReadOnly) && document.setContent(&file), qPrintable(name));
-        const QDomNodeList messages = document.elementsByTagName("message");
-        QVERIFY(messages.size() > 100);
-        QStringList wrong;
-        for (int i = 0; i < messages.size(); ++i) {
-            const QString source = messages.at(i).firstChildElement("source").text();
-            const QDomElement translation = messages.at(i).firstChildElement("translation");
-            if (translation.hasAttribute("type") || translation.text().isEmpty()
-                || placeholders(source) != placeholders(translation.text()))
-                wrong << source;
+    // What the console gives the controller is in the scenario it saves, which
+    // loads back to the same state.
+    void consoleLinesSurviveSavedScenario()
+    {
+        DemoOptions options;
+        options.scenario = "orbilux";
+        DemoWindow window(options);
+        ConsoleLine *console = window.logWindow()->console();
+        const QStringList lines { "config is_changeable = no", "@backend-version 1.x",
+            "@fail status step_active", "@reply status progress = 0.5", "@present t02 t05",
+            "body desc standard b01 = \"Tool = 1\"" };
+        for (const QString &line : lines) {
+            QTest::keyClicks(console, line);
+            QTest::keyClick(console, Qt::Key_Return);
         }
-        QVERIFY2(wrong.isEmpty(), qPrintable(name + ": " + wrong.join(" | ")));
+        const QString bad = window.logModel()->lineText(window.logModel()->rowCount() - 5);
+        QVERIFY2(bad.contains("@backend-version 1.x\tbad version") && bad.endsWith("FAILED"),
+            qPrintable(bad));
+        for (int i = 0; i < 5; ++i)
+            QTest::keyClick(console, Qt::Key_Up);
+        QCOMPARE(console->text(), lines.at(1));
+        for (int i = 0; i < 5; ++i)
+            QTest::keyClick(console, Qt::Key_Down);
+        QCOMPARE(console->text(), QString());
+
+        QTemporaryDir dir;
+        QString error;
+        QVERIFY(window.saveScenario(dir.filePath("saved.scn"), &error));
+        sim::SimulatedController reloaded;
+        QVERIFY(reloaded.loadScenario(dir.filePath("saved.scn")));
+        QCOMPARE(reloaded.parameters(), window.controller()->parameters());
+        QCOMPARE(reloaded.value("config is_changeable"), QStringLiteral("no"));
+        char reply[200] = {};
+        QCOMPARE(reloaded.getString(reply, "status step_active"), 1);
+        QCOMPARE(reloaded.getString(reply, "status progress"), 0);
+        QCOMPARE(QByteArray(reply), QByteArray("0.5"));
     }
-}
-
-// Each row goes to the log file as it happens, and Save writes the same lines.
-void TestDemoHost::marksFailuresAndErrorReports()
-{
-    QTemporaryDir dir;
-    SimulatorLogModel model;
-    QString error;
-    QVERIFY(model.setLogFile(dir.filePath("live.log"), &error));
-    fill(&model);
-    QFile live(dir.filePath("live.log"));
-    QVERIFY(live.open(QIODevice::ReadOnly));
-    const QStringList lines = QString::fromUtf8(live.readAll()).split('\n', Qt::SkipEmptyParts);
-    QStringList marked;
-    for (const QString &line : lines)
-        marked << line.section('\t', 2, 2) + (line.endsWith("\tFAILED") ? "!" : "");
-    QCOMPARE(marked,
-        QStringList({ "status active", "standard number_of_bodies x!",
-            "VELORA4 \u2192 standard: Error: Unable to get group name!",
-            "VELORA4 \u2192 standard: t04 already calibrated",
-            "VELORA4 \u2192 BodyCalModule: OpenBodyCalDialog standard b01" }));
-    QVERIFY(QTime::fromString(lines.first().section('\t', 0, 0), "HH:mm:ss.zzz").isValid());
-    QCOMPARE(lines.first().section('\t', 3, 4), QStringLiteral("none\t0"));
-    QVERIFY(model.save(dir.filePath("saved.log"), &error));
-    QFile saved(dir.filePath("saved.log"));
-    QVERIFY(saved.open(QIODevice::ReadOnly));
-    QCOMPARE(QString::fromUtf8(saved.readAll()), lines.join('\n') + '\n');
-    QVERIFY(!model.save(dir.filePath("no/such/folder/x.log"), &error));
-    QVERIFY(error.contains("no/such/folder"));
-}
-
-void TestDemoHost::filters_data()
-{
-    QTest::addColumn<int>("show");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("shown");
-
-    QTest::newRow("calls") << int(LogFilter::Calls) << QString()
-                           << QStringList { "status active", "standard number_of_bodies x" };
-    QTest::newRow("failures") << int(LogFilter::Failures) << QString()
-                              << QStringList { "standard number_of_bodies x",
-                                     "Error: Unable to get group name" };
-    QTest::newRow("messages with text, any case") << int(
-        LogFilter::Messages) << "STANDARD b01" << QStringList { "OpenBodyCalDialog standard b01" };
-    QTest::newRow("text in the reply")
-        << int(LogFilter::All) << "none" << QStringList { "status active" };
-}
-
-void TestDemoHost::filters()
-{
-    QFETCH(int, show);
-    QFETCH(QString, text);
-    SimulatorLogModel model;
-    fill(&model);
-    LogFilter filter;
-    filter.setSourceModel(&model);
-    filter.setShow(LogFilter::Show(show));
-    filter.setFilterFixedString(text);
-    QTEST(texts(filter), "shown");
-}
-
-void TestDemoHost::followsTailOnlyAtBottom()
-{
-    SimulatorLogModel model;
-    LogWindow window(&model);
-    window.resize(400, 200);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const QScrollBar *bar = window.view()->verticalScrollBar();
-    LogEntry row;
-    for (int i = 0; i < 100; ++i)
-        model.append(row);
-    QTRY_VERIFY(bar->maximum() > 0);
-    QTRY_COMPARE(bar->value(), bar->maximum());
-
-    // Someone reading older rows is not yanked away by new ones.
-    window.view()->scrollToTop();
-    model.append(row);
-    QCoreApplication::processEvents();
-    QCOMPARE(bar->value(), 0);
-}
-
-// Qt blocks every window but the modal dialog and its transient children;
-// the log window must be one of those.
-void TestDemoHost::staysUsableWhileModuleDialogRuns()
-{
-    DemoWindow window { DemoOptions() };
-    window.show();
-    window.logWindow()->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.logWindow()));
-    QTableView *view = window.logWindow()->view();
-    QVERIFY(view->model()->rowCount() > 2);
-    int clicked = -1, currentRow = -2;
-    ModalDriver driver;
-    driver.answer([&](QWidget *modal) {
-        clicked = view->model()->rowCount() - 2;
-        const QModelIndex target = view->model()->index(clicked, 1);
-        view->scrollTo(target);
-        // Through the window system's path, where Qt applies modality.
-        const QPoint at
-            = view->viewport()->mapTo(view->window(), view->visualRect(target).center());
-        QTest::mouseClick(view->window()->windowHandle(), Qt::LeftButton, {}, at);
-        currentRow = view->currentIndex().row();
-        static_cast<QDialog *>(modal)->reject();
-    });
-    window.moduleActions().at(1)->trigger(); // body administration
-    QCOMPARE(driver.pending(), 0);
-    QCOMPARE(currentRow, clicked);
-    window.close();
-}
-
-// What the console gives the controller is in the scenario it saves, which
-// loads back to the same state.
-void TestDemoHost::consoleLinesSurviveSavedScenario()
-{
-    DemoOptions options;
-    options.scenario = "orbilux";
-    DemoWindow window(options);
-    ConsoleLine *console = window.logWindow()->console();
-    const QStringList lines { "config is_changeable = no", "@backend-version 1.x",
-        "@fail status step_active", "@reply status progress = 0.5", "@present t02 t05",
-        "body desc standard b01 = \"Tool = 1\"" };
-    for (const QString &line : lines) {
-        QTest::keyClicks(console, line);
-        QTest::keyClick(console, Qt::Key_Return);
-    }
-    const QString bad = window.logModel()->lineText(window.logModel()->rowCount() - 5);
-    QVERIFY2(bad.contains("@backend-version 1.x\tbad version") && bad.endsWith("FAILED"),
-        qPrintable(bad));
-    for (int i = 0; i < 5; ++i)
-        QTest::keyClick(console, Qt::Key_Up);
-    QCOMPARE(console->text(), lines.at(1));
-    for (int i = 0; i < 5; ++i)
-        QTest::keyClick(console, Qt::Key_Down);
-    QCOMPARE(console->text(), QString());
-
-    QTemporaryDir dir;
-    QString error;
-    QVERIFY(window.saveScenario(dir.filePath("saved.scn"), &error));
-    sim::SimulatedController reloaded;
-    QVERIFY(reloaded.loadScenario(dir.filePath("saved.scn")));
-    QCOMPARE(reloaded.parameters(), window.controller()->parameters());
-    QCOMPARE(reloaded.scenarioText(), window.controller()->scenarioText());
-    QCOMPARE(reloaded.value("config is_changeable"), QStringLiteral("no"));
-    char reply[200] = {};
-    QCOMPARE(reloaded.getString(reply, "status step_active"), 1);
-    QCOMPARE(reloaded.getString(reply, "status progress"), 0);
-    QCOMPARE(QByteArray(reply), QByteArray("0.5"));
-}
+};
 
 QTEST_MAIN(TestDemoHost)
 #include "tst_demohost.moc"

@@ -2,101 +2,78 @@
 #include "commandchannel.h"
 #include "handoverrequest.h"
 
-#include <simulatedcontroller.h>
-
-#include <QtTest>
+#include <testkit.h>
 
 class TestMessages : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void matching_data();
-    void matching();
-    void requests_data();
-    void requests();
+    void matching_data()
+    {
+        testkit::columns<QByteArray, QByteArray, QString>({ "sender", "text", "signal" });
+        const QByteArray config("ConfigurationModule"); // no signal: ignored
+        // clang-format off
+        QTest::newRow("reopen wins over the configuration test") << config << QByteArray("reopen") << "dialogReopen";
+        QTest::newRow("reopen with a trailing blank") << config << QByteArray("reopen ") << "";
+        QTest::newRow("calibration announced, more text") << QByteArray("x") << QByteArray("bodycalibration available v2") << "BodyCalAvailable";
+        QTest::newRow("capital B is not the announcement") << QByteArray("x") << QByteArray("Bodycalibration available") << "";
+        QTest::newRow("adjustment announced") << QByteArray("") << QByteArray("bodyadjustment available") << "BodyAdjustmentAvailable";
+        QTest::newRow("configuration changed") << config << QByteArray("ActiveConfigurationChanged") << "activeConfigurationChanged";
+        QTest::newRow("configuration changed, other sender") << QByteArray("BodyCalModule") << QByteArray("ActiveConfigurationChanged") << "";
+        QTest::newRow("configuration changed, more text") << config << QByteArray("ActiveConfigurationChanged!") << "";
+        QTest::newRow("missing text") << config << QByteArray() << "";
+        // clang-format on
+    }
+    void matching()
+    {
+        QFETCH(QByteArray, sender);
+        QFETCH(QByteArray, text);
+        BodyAdminMessageReceiver receiver;
+        QStringList emitted;
+        using R = BodyAdminMessageReceiver;
+        for (const auto &[signal, name] : { std::make_pair(&R::dialogReopen, "dialogReopen"),
+                 { &R::BodyCalAvailable, "BodyCalAvailable" },
+                 { &R::BodyAdjustmentAvailable, "BodyAdjustmentAvailable" },
+                 { &R::activeConfigurationChanged, "activeConfigurationChanged" } })
+            connect(&receiver, signal, this, [&emitted, name = name] { emitted << name; });
+        QCOMPARE(receiver.receiveMessage(
+                     "GlobalEvent", sender.constData(), text.isNull() ? nullptr : text.constData()),
+            0);
+        QTEST(emitted.join(' '), "signal");
+    }
+
+    void requests_data()
+    {
+        testkit::columns<QString, QString, int, QString, QString>(
+            { "kind", "bodyType", "index", "calibration", "sent" }); // sent: "receiver: text"
+        // clang-format off
+        QTest::newRow("custom calibration pads the number") << "custom" << "standard" << 11 << "" << "BodyCalModule: OpenBodyCalDialog standard b12";
+        QTest::newRow("custom calibration of body 100") << "custom" << "gripwand" << 99 << "" << "BodyCalModule: OpenBodyCalDialog gripwand b100";
+        QTest::newRow("adjustment sends the bare number") << "adjust" << "standard" << 11 << "Custom" << "BodyAdjustmentModule: OpenBodyAdjustmentDialog standard|12|calibrated";
+        QTest::newRow("adjustment of an uncalibrated body") << "adjust" << "fingertracking" << 0 << "not calibrated" << "BodyAdjustmentModule: OpenBodyAdjustmentDialog fingertracking|1|uncalibrated";
+        QTest::newRow("only the exact text means uncalibrated") << "adjust" << "standard" << 0 << "Not calibrated" << "BodyAdjustmentModule: OpenBodyAdjustmentDialog standard|1|calibrated";
+        QTest::newRow("hybrid passes the calibration text") << "hybrid" << "standard" << 2 << "Target Library, re-calibrated" << "HybridBodyCalibration: OpenHybridBodyCalibration standard|3|Target Library, re-calibrated";
+        // clang-format on
+    }
+    void requests()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, bodyType);
+        QFETCH(int, index);
+        QFETCH(QString, calibration);
+        const HandOverRequest request = kind == "custom"
+            ? HandOverRequest::customCalibration(bodyType, index)
+            : kind == "adjust" ? HandOverRequest::bodyAdjustment(bodyType, index, calibration)
+                               : HandOverRequest::hybridCalibration(bodyType, index, calibration);
+        sim::SimulatedController controller;
+        request.send(CommandChannel(&controller, &controller.backendVersions()));
+        QCOMPARE(controller.log().size(), 1);
+        const sim::SimulatedController::LogEntry entry = controller.log().first();
+        QTEST(entry.receiver + ": " + entry.text, "sent");
+        QCOMPARE(entry.sender + ' ' + QString::number(entry.level), "BodyAdministrationModule 1");
+    }
 };
-
-void TestMessages::matching_data()
-{
-    QTest::addColumn<QByteArray>("sender");
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("signal"); // empty: ignored
-
-    const QByteArray config("ConfigurationModule");
-    // clang-format off
-    QTest::newRow("reopen wins over the configuration test") << config << QByteArray("reopen") << "dialogReopen";
-    QTest::newRow("reopen with a trailing blank") << config << QByteArray("reopen ") << "";
-    QTest::newRow("calibration announced, more text") << QByteArray("x") << QByteArray("bodycalibration available v2") << "BodyCalAvailable";
-    QTest::newRow("capital B is not the announcement") << QByteArray("x") << QByteArray("Bodycalibration available") << "";
-    QTest::newRow("adjustment announced") << QByteArray("") << QByteArray("bodyadjustment available") << "BodyAdjustmentAvailable";
-    QTest::newRow("configuration changed") << config << QByteArray("ActiveConfigurationChanged") << "activeConfigurationChanged";
-    QTest::newRow("configuration changed, other sender") << QByteArray("BodyCalModule") << QByteArray("ActiveConfigurationChanged") << "";
-    QTest::newRow("configuration changed, more text") << config << QByteArray("ActiveConfigurationChanged!") << "";
-    QTest::newRow("missing text") << config << QByteArray() << "";
-    // clang-format on
-}
-
-void TestMessages::matching()
-{
-    QFETCH(QByteArray, sender);
-    QFETCH(QByteArray, text);
-    QFETCH(QString, signal);
-
-    BodyAdminMessageReceiver receiver;
-    QSignalSpy reopen(&receiver, &BodyAdminMessageReceiver::dialogReopen);
-    QSignalSpy calibration(&receiver, &BodyAdminMessageReceiver::BodyCalAvailable);
-    QSignalSpy adjustment(&receiver, &BodyAdminMessageReceiver::BodyAdjustmentAvailable);
-    QSignalSpy configuration(&receiver, &BodyAdminMessageReceiver::activeConfigurationChanged);
-
-    const char *textArgument = text.isNull() ? nullptr : text.constData();
-    QCOMPARE(receiver.receiveMessage("GlobalEvent", sender.constData(), textArgument), 0);
-
-    QCOMPARE(reopen.count(), signal == "dialogReopen" ? 1 : 0);
-    QCOMPARE(calibration.count(), signal == "BodyCalAvailable" ? 1 : 0);
-    QCOMPARE(adjustment.count(), signal == "BodyAdjustmentAvailable" ? 1 : 0);
-    QCOMPARE(configuration.count(), signal == "activeConfigurationChanged" ? 1 : 0);
-}
-
-void TestMessages::requests_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("bodyType");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("calibration");
-    QTest::addColumn<QString>("sent"); // receiver: text
-
-    // clang-format off
-    QTest::newRow("custom calibration pads the number") << "custom" << "standard" << 11 << "" << "BodyCalModule: OpenBodyCalDialog standard b12";
-    QTest::newRow("custom calibration of body 100") << "custom" << "gripwand" << 99 << "" << "BodyCalModule: OpenBodyCalDialog gripwand b100";
-    QTest::newRow("adjustment sends the bare number") << "adjust" << "standard" << 11 << "Custom" << "BodyAdjustmentModule: OpenBodyAdjustmentDialog standard|12|calibrated";
-    QTest::newRow("adjustment of an uncalibrated body") << "adjust" << "fingertracking" << 0 << "not calibrated" << "BodyAdjustmentModule: OpenBodyAdjustmentDialog fingertracking|1|uncalibrated";
-    QTest::newRow("only the exact text means uncalibrated") << "adjust" << "standard" << 0 << "Not calibrated" << "BodyAdjustmentModule: OpenBodyAdjustmentDialog standard|1|calibrated";
-    QTest::newRow("hybrid passes the calibration text") << "hybrid" << "standard" << 2 << "Target Library, re-calibrated" << "HybridBodyCalibration: OpenHybridBodyCalibration standard|3|Target Library, re-calibrated";
-    // clang-format on
-}
-
-void TestMessages::requests()
-{
-    QFETCH(QString, kind);
-    QFETCH(QString, bodyType);
-    QFETCH(int, index);
-    QFETCH(QString, calibration);
-
-    const HandOverRequest request = kind == "custom"
-        ? HandOverRequest::customCalibration(bodyType, index)
-        : kind == "adjust" ? HandOverRequest::bodyAdjustment(bodyType, index, calibration)
-                           : HandOverRequest::hybridCalibration(bodyType, index, calibration);
-
-    sim::SimulatedController controller;
-    request.send(CommandChannel(&controller, &controller.backendVersions()));
-
-    QCOMPARE(controller.log().size(), 1);
-    const sim::SimulatedController::LogEntry entry = controller.log().first();
-    QTEST(entry.receiver + ": " + entry.text, "sent");
-    QCOMPARE(
-        entry.sender + ' ' + QString::number(entry.level), QString("BodyAdministrationModule 1"));
-}
 
 QTEST_GUILESS_MAIN(TestMessages)
 #include "tst_messages.moc"

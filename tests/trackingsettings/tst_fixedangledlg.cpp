@@ -1,34 +1,9 @@
 #include "angletablewidget.h"
 #include "fixedangledlg.h"
 
-#include <modaldriver.h>
 #include <testkit.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-
 using testkit::clickLater;
-
-class TestFixedAngleDlg : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init() { testkit::useScenario(controller); }
-    void cleanup() { testkit::closeAllAndCheck(); }
-    void opening_data();
-    void opening();
-    void edits_data();
-    void edits();
-    void invalidDataAndHelp();
-
-private:
-    // Opens the dialog, hands it to action and returns the rows it showed.
-    QStringList run(const std::function<void(AngleTableWidget *)> &action, int *result = nullptr);
-
-    sim::SimulatedController controller;
-};
 
 namespace
 {
@@ -66,6 +41,155 @@ QStringList describeRows(const QTableWidget *table)
 }
 } // namespace
 
+class TestFixedAngleDlg : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { testkit::useScenario(controller); }
+    void cleanup() { testkit::closeAllAndCheck(); }
+    void opening_data()
+    {
+        // setting: "path=value", or a query that fails
+        testkit::columns<int, QString, QStringList, QString>(
+            { "minor", "setting", "rows", "report" });
+
+        const QString b3("standard fixed_angle b03"), error("Error: Unable to check ");
+        const QStringList rows { "1|Glasses|0.00[ ]|0.00[ ]|0.00[ ]",
+            "2|Room reference|0.00[ ]|0.00[ ]|0.00[ ]", "3|Handheld|5.00[x]|0.00[ ]|0.00[ ]",
+            "4||0.0|0.0|0.0 gray" };
+        QStringList gray = rows, usable = rows, unknown = rows, cleared = rows;
+        cleared[2] = "3|Handheld|0.00[ ]|0.00[ ]|0.00[ ]";
+        gray[2] = "3|Handheld|0.0|0.0|0.0 gray";
+        usable[2] = "3|Handheld|0.00[ ]|12.50[x]|0.00[ ]";
+        unknown[2] = "3||5.00[x]|0.00[ ]|0.00[ ]";
+        // clang-format off
+        QTest::newRow("as read") << 6 << "" << rows << "";
+        QTest::newRow("before 1.6 nothing") << 5 << "" << QStringList() << "";
+        QTest::newRow("spare blanks, cylinder target") << 24 << b3 + "=no 0.00  yes 12.5 no 0|body target_type standard b03=tt_2x5dof_cyl" << usable << "";
+        QTest::newRow("other target type") << 24 << "body target_type standard b03=tt_5dof" << gray << "";
+        QTest::newRow("not calibrated") << 24 << "body calibrated standard b03=no" << gray << "";
+        QTest::newRow("calibration unknown") << 24 << "body calibrated standard b03" << gray << error + "the calibration status of standard body";
+        QTest::newRow("target type unknown") << 24 << "body target_type standard b03" << gray << error + "target type";
+        QTest::newRow("name unknown") << 24 << "body desc standard b03" << unknown << error + "name of standard body";
+        QTest::newRow("angles unknown") << 24 << b3 << cleared << error + "fixed angle of standard body";
+        QTest::newRow("count unknown") << 24 << "body number_of_bodies standard" << QStringList() << error + "number of standard bodies";
+        // clang-format on
+    }
+    void opening()
+    {
+        QFETCH(int, minor);
+        QFETCH(QString, setting);
+        controller.backendVersions().backendVersion = { 1, minor, 0 };
+        testkit::apply(controller, setting);
+        bool usable = false;
+        QStringList headers;
+        QTEST(run([&](AngleTableWidget *table) {
+            usable = table->isEnabled()
+                && testkit::child(table->window(), "pushButton_ok")->isEnabled();
+            for (int column = 0; column < AngleTableWidget::ColumnCount; ++column)
+                headers << table->horizontalHeaderItem(column)->text();
+            clickLater(table->window(), "pushButton_cancel");
+        }),
+            "rows");
+        QCOMPARE(usable, minor >= 6);
+        QCOMPARE(headers.join(' '), QString("ID Name rx ry rz"));
+        QTEST(controller.reports().join('|'), "report");
+        if (minor == 6)
+            QCOMPARE(controller.commands().mid(0, 6),
+                QStringList({ "body number_of_bodies standard", "body desc standard b01",
+                    "body calibrated standard b01", "body target_type standard b01",
+                    "standard fixed_angle b01", "body desc standard b02" }));
+        else if (minor < 6)
+            QCOMPARE(controller.commands(), QStringList());
+    }
+    void edits_data()
+    {
+        testkit::columns<QString, QString, QString>({ "typed", "shown", "sent" });
+        for (const auto &row :
+            { std::make_tuple("25", "0.00", "0.000000"), { "-19.999", "-20.00", "-20.000000" },
+                { "letters", "0.00", "0.000000" }, { "20", "20.00", "20.000000" },
+                { "-20.001", "0.00", "0.000000" }, { "3.14159", "3.14", "3.140000" } })
+            QTest::newRow(std::get<0>(row))
+                << std::get<0>(row) << std::get<1>(row) << std::get<2>(row);
+    }
+    // Space flips the hold of bodies 1 and 3, an angle is typed for body 2, then OK.
+    void edits()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, shown);
+        QFETCH(QString, sent);
+        int result = -1;
+        QString cell;
+        bool nameEdited = true;
+        run(
+            [&](AngleTableWidget *table) {
+                table->setCurrentCell(0, AngleTableWidget::XColumn);
+                QTest::keyClick(table, Qt::Key_Space);
+                typeInto(table, 1, AngleTableWidget::YColumn, typed);
+                cell = table->item(1, AngleTableWidget::YColumn)->text();
+                table->setCurrentCell(2, AngleTableWidget::XColumn);
+                QTest::keyClick(table, Qt::Key_Space);
+                // A double click never opens the id or the name for editing.
+                QTest::mouseDClick(table->viewport(), Qt::LeftButton, {},
+                    table->visualItemRect(table->item(0, AngleTableWidget::NameColumn)).center());
+                nameEdited = table->findChild<QLineEdit *>()
+                    && table->findChild<QLineEdit *>()->isVisible();
+                controller.clearLog();
+                clickLater(table->window(), "pushButton_ok");
+            },
+            &result);
+        QCOMPARE(result, int(QDialog::Accepted));
+        QCOMPARE(cell, shown);
+        QVERIFY(!nameEdited);
+        QCOMPARE(controller.commands(),
+            QStringList({ "standard fixed_angle b01 yes 0.000000 no 0.000000 no 0.000000",
+                "standard fixed_angle b02 no 0.000000 no " + sent + " no 0.000000",
+                "standard fixed_angle b03 no 5.000000 no 0.000000 no 0.000000",
+                "standard fixed_angle b04 no 0.000000 no 0.000000 no 0.000000" }));
+    }
+    // OK with a cell no edit could leave behind, then the help.
+    void invalidDataAndHelp()
+    {
+        int pictures = 0;
+        FixedAngleDlg dialog(&controller, nullptr, &controller.backendVersions());
+        ModalDriver driver;
+        driver.answer([&](QWidget *modal) {
+            const QSignalBlocker unchecked(modal->findChild<AngleTableWidget *>());
+            modal->findChild<AngleTableWidget *>()
+                ->item(1, AngleTableWidget::ZColumn)
+                ->setText("abc");
+            controller.clearLog();
+            clickLater(modal, "pushButton_ok");
+        });
+        driver.pressButton(QMessageBox::Ok);
+        driver.answer([&](QWidget *modal) { clickLater(modal, "pushButton_help"); });
+        driver.answer([&](QWidget *help) {
+            for (const QLabel *label : help->findChildren<QLabel *>())
+                pictures += !label->pixmap(Qt::ReturnByValue).isNull();
+            clickLater(help, "pushButton_exit");
+        });
+        driver.reject();
+        QCOMPARE(dialog.update_and_exec(), int(QDialog::Rejected));
+        QStringList seen;
+        for (const ModalDriver::Seen &modal : driver.seen())
+            seen << modal.title + ": " + modal.text;
+        QCOMPARE(seen.join(" | "),
+            QString("Fixed Angle Settings:  | Fixed Angle: There is invalid data. | Fixed Angle "
+                    "Settings:  | Fixed Angle Settings Help:  | Fixed Angle Settings: "));
+        QCOMPARE(pictures, 2);
+        // The rows before the invalid one have been sent.
+        QCOMPARE(controller.commands(),
+            QStringList { "standard fixed_angle b01 no 0.000000 no 0.000000 no 0.000000" });
+    }
+
+private:
+    // Opens the dialog, hands it to action and returns the rows it showed.
+    QStringList run(const std::function<void(AngleTableWidget *)> &action, int *result = nullptr);
+
+    sim::SimulatedController controller;
+};
+
 QStringList TestFixedAngleDlg::run(
     const std::function<void(AngleTableWidget *)> &action, int *result)
 {
@@ -81,143 +205,6 @@ QStringList TestFixedAngleDlg::run(
     if (result)
         *result = code;
     return rows;
-}
-
-void TestFixedAngleDlg::opening_data()
-{
-    QTest::addColumn<int>("minor");
-    QTest::addColumn<QString>("setting"); // "path=value", or a query that fails
-    QTest::addColumn<QStringList>("rows");
-    QTest::addColumn<QString>("report");
-
-    const QString b3("standard fixed_angle b03"), error("Error: Unable to check ");
-    const QStringList rows { "1|Glasses|0.00[ ]|0.00[ ]|0.00[ ]",
-        "2|Room reference|0.00[ ]|0.00[ ]|0.00[ ]", "3|Handheld|5.00[x]|0.00[ ]|0.00[ ]",
-        "4||0.0|0.0|0.0 gray" };
-    QStringList gray = rows, usable = rows, unknown = rows, cleared = rows;
-    cleared[2] = "3|Handheld|0.00[ ]|0.00[ ]|0.00[ ]";
-    gray[2] = "3|Handheld|0.0|0.0|0.0 gray";
-    usable[2] = "3|Handheld|0.00[ ]|12.50[x]|0.00[ ]";
-    unknown[2] = "3||5.00[x]|0.00[ ]|0.00[ ]";
-    // clang-format off
-    QTest::newRow("as read") << 6 << "" << rows << "";
-    QTest::newRow("before 1.6 nothing") << 5 << "" << QStringList() << "";
-    QTest::newRow("spare blanks, cylinder target") << 24 << b3 + "=no 0.00  yes 12.5 no 0|body target_type standard b03=tt_2x5dof_cyl" << usable << "";
-    QTest::newRow("other target type") << 24 << "body target_type standard b03=tt_5dof" << gray << "";
-    QTest::newRow("not calibrated") << 24 << "body calibrated standard b03=no" << gray << "";
-    QTest::newRow("calibration unknown") << 24 << "body calibrated standard b03" << gray << error + "the calibration status of standard body";
-    QTest::newRow("target type unknown") << 24 << "body target_type standard b03" << gray << error + "target type";
-    QTest::newRow("name unknown") << 24 << "body desc standard b03" << unknown << error + "name of standard body";
-    QTest::newRow("angles unknown") << 24 << b3 << cleared << error + "fixed angle of standard body";
-    QTest::newRow("count unknown") << 24 << "body number_of_bodies standard" << QStringList() << error + "number of standard bodies";
-    // clang-format on
-}
-
-void TestFixedAngleDlg::opening()
-{
-    QFETCH(int, minor);
-    QFETCH(QString, setting);
-    controller.backendVersions().backendVersion = { 1, minor, 0 };
-    testkit::apply(controller, setting);
-    bool usable = false;
-    QStringList headers;
-    QTEST(run([&](AngleTableWidget *table) {
-        usable
-            = table->isEnabled() && testkit::child(table->window(), "pushButton_ok")->isEnabled();
-        for (int column = 0; column < AngleTableWidget::ColumnCount; ++column)
-            headers << table->horizontalHeaderItem(column)->text();
-        clickLater(table->window(), "pushButton_cancel");
-    }),
-        "rows");
-    QCOMPARE(usable, minor >= 6);
-    QCOMPARE(headers.join(' '), QString("ID Name rx ry rz"));
-    QTEST(controller.reports().join('|'), "report");
-    if (minor == 6)
-        QCOMPARE(controller.commands().mid(0, 6),
-            QStringList({ "body number_of_bodies standard", "body desc standard b01",
-                "body calibrated standard b01", "body target_type standard b01",
-                "standard fixed_angle b01", "body desc standard b02" }));
-    else if (minor < 6)
-        QCOMPARE(controller.commands(), QStringList());
-}
-
-void TestFixedAngleDlg::edits_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("shown");
-    for (const auto &row :
-        { std::make_pair("25", "0.00"), { "-19.999", "-20.00" }, { "letters", "0.00" },
-            { "20", "20.00" }, { "-20.001", "0.00" }, { "3.14159", "3.14" } })
-        QTest::newRow(row.first) << row.first << row.second;
-}
-
-// Space flips the hold of bodies 1 and 3, an angle is typed for body 2, then OK.
-void TestFixedAngleDlg::edits()
-{
-    QFETCH(QString, typed);
-    QFETCH(QString, shown);
-    int result = -1;
-    QString cell;
-    bool nameEdited = true;
-    run(
-        [&](AngleTableWidget *table) {
-            table->setCurrentCell(0, AngleTableWidget::XColumn);
-            QTest::keyClick(table, Qt::Key_Space);
-            typeInto(table, 1, AngleTableWidget::YColumn, typed);
-            cell = table->item(1, AngleTableWidget::YColumn)->text();
-            table->setCurrentCell(2, AngleTableWidget::XColumn);
-            QTest::keyClick(table, Qt::Key_Space);
-            // A double click never opens the id or the name for editing.
-            QTest::mouseDClick(table->viewport(), Qt::LeftButton, {},
-                table->visualItemRect(table->item(0, AngleTableWidget::NameColumn)).center());
-            nameEdited
-                = table->findChild<QLineEdit *>() && table->findChild<QLineEdit *>()->isVisible();
-            controller.clearLog();
-            clickLater(table->window(), "pushButton_ok");
-        },
-        &result);
-    QCOMPARE(result, int(QDialog::Accepted));
-    QCOMPARE(cell, shown);
-    QVERIFY(!nameEdited);
-    QCOMPARE(controller.commands(),
-        QStringList({ "standard fixed_angle b01 yes 0.000000 no 0.000000 no 0.000000",
-            QString::asprintf(
-                "standard fixed_angle b02 no 0.000000 no %f no 0.000000", shown.toDouble()),
-            "standard fixed_angle b03 no 5.000000 no 0.000000 no 0.000000",
-            "standard fixed_angle b04 no 0.000000 no 0.000000 no 0.000000" }));
-}
-
-// OK with a cell no edit could leave behind, then the help.
-void TestFixedAngleDlg::invalidDataAndHelp()
-{
-    int pictures = 0;
-    FixedAngleDlg dialog(&controller, nullptr, &controller.backendVersions());
-    ModalDriver driver;
-    driver.answer([&](QWidget *modal) {
-        const QSignalBlocker unchecked(modal->findChild<AngleTableWidget *>());
-        modal->findChild<AngleTableWidget *>()->item(1, AngleTableWidget::ZColumn)->setText("abc");
-        controller.clearLog();
-        clickLater(modal, "pushButton_ok");
-    });
-    driver.pressButton(QMessageBox::Ok);
-    driver.answer([&](QWidget *modal) { clickLater(modal, "pushButton_help"); });
-    driver.answer([&](QWidget *help) {
-        for (const QLabel *label : help->findChildren<QLabel *>())
-            pictures += !label->pixmap(Qt::ReturnByValue).isNull();
-        clickLater(help, "pushButton_exit");
-    });
-    driver.reject();
-    QCOMPARE(dialog.update_and_exec(), int(QDialog::Rejected));
-    QStringList seen;
-    for (const ModalDriver::Seen &modal : driver.seen())
-        seen << modal.title + ": " + modal.text;
-    QCOMPARE(seen.join(" | "),
-        QString("Fixed Angle Settings:  | Fixed Angle: There is invalid data. | Fixed Angle "
-                "Settings:  | Fixed Angle Settings Help:  | Fixed Angle Settings: "));
-    QCOMPARE(pictures, 2);
-    // The rows before the invalid one have been sent.
-    QCOMPARE(controller.commands(),
-        QStringList { "standard fixed_angle b01 no 0.000000 no 0.000000 no 0.000000" });
 }
 
 QTEST_MAIN(TestFixedAngleDlg)

@@ -5,36 +5,25 @@
 #include <csignal>
 #include <sys/resource.h>
 
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QRadioButton>
-
 using testkit::child;
 
 namespace
 {
-QString preferencesDirectory()
-{
-    return QDir::homePath() + "/.ZEM/VELORA4/modules/trackingsettings/v3.0.5/config";
-}
-
+const QString Folder = "/.ZEM/VELORA4/modules/trackingsettings/v3.0.5/config";
 QString preferencesFile()
 {
-    return preferencesDirectory() + "/trackingsettings-preferences.xml";
+    return QDir::homePath() + Folder + "/trackingsettings-preferences.xml";
 }
-
 QByteArray readPreferences()
 {
     QFile file(preferencesFile());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
-
 bool writePreferences(const QByteArray &content)
 {
-    QDir().mkpath(preferencesDirectory());
     QFile file(preferencesFile());
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    return QDir().mkpath(QDir::homePath() + Folder) && file.open(QIODevice::WriteOnly)
+        && file.write(content) == content.size();
 }
 } // namespace
 
@@ -50,12 +39,208 @@ private slots:
         testkit::useScenario(controller);
     }
     void cleanup() { testkit::closeAllAndCheck(); }
-    void session_data();
-    void session();
-    void axis_data();
-    void axis();
-    void advancedOpensFixedAngles();
-    void failedWriteKeepsPreviousFile();
+    // One opening from construction to the button: each gate appears at its
+    // version and just below it.
+    void session_data()
+    {
+        // version|shown|remembered|noangle|orbilux|prefs:XML|nofile|obstacle:dir|file|fail:PATTERN|PATH=VALUE
+        // keys: space: 3DOF box, down: axis combo, pulse:RADIO; controls: the visible ones,
+        // disabled in brackets; commands: all from construction on; report: until destroyed
+        testkit::columns<QString, QString, QString, QString, QString, QString>(
+            { "setup", "keys", "button", "controls", "commands", "report" });
+
+        const QString L = "config is_changeable, ",
+                      R = "standard calculate_marker, tracking auto_restart";
+        const QString A
+            = "standard number_of_bodies, standard fixed_angle b01, standard fixed_angle "
+              "b02, standard fixed_angle b03, ";
+        const QString X = ", tracking axis_5dof_central", all = L + A + R + X,
+                      forced = "tracking auto_restart yes, ";
+        const QString ok = " advanced ok cancel", marker = ", standard calculate_marker ",
+                      restart = ", tracking auto_restart ";
+        const QString pulse = all + ", tracking pulse ", error = "Error: Unable to set ";
+        const QString plain = L + A + "standard fixed_angle b04, " + forced + R + X,
+                      file = preferencesFile();
+        const QString load = "Error: Loading tracking settings preferences",
+                      builtIn = ". Using built-in values";
+        // clang-format off
+        QTest::newRow("0.13: no auto restart") << "0.13|shown" << "space" << "ok" << "force3d (autoReStart) (5dofAxis) ok cancel" << "standard calculate_marker, standard calculate_marker yes" << "";
+        QTest::newRow("0.13, hidden: not forced") << "0.13" << "" << "ok" << "force3d (5dofAxis) ok cancel" << "standard calculate_marker" << "";
+        QTest::newRow("0.14, Cancel sends what was read") << "0.14|shown" << "space" << "cancel" << "force3d autoReStart (5dofAxis) ok cancel" << R + marker + "no" + restart + "yes" << "";
+        QTest::newRow("0.14, hidden: forced") << "0.14" << "" << "ok" << "force3d (5dofAxis) ok cancel" << forced + R << "";
+        QTest::newRow("1.5 remembered: old") << "1.5|shown|remembered" << "" << "ok" << "force3d autoReStart (5dofAxis) (advanced) ok cancel" << R << "TrackingSettings: Old version of Pelicam Controller";
+        QTest::newRow("1.6: a body holds an angle") << "1.6|shown" << "" << "ok" << "force3d autoReStart (5dofAxis)" + ok << A + R << "";
+        QTest::newRow("1.6: no angle held") << "1.6|shown|standard fixed_angle b03=no 0 no 0 no 0" << "" << "ok" << "force3d autoReStart (5dofAxis) ok cancel" << A + "standard fixed_angle b04, " + R << "";
+        QTest::newRow("1.6: remembered, not searched") << "1.6|shown|remembered|standard fixed_angle b03=no 0 no 0 no 0" << "" << "ok" << "force3d autoReStart (5dofAxis)" + ok << R << "";
+        QTest::newRow("1.8: never locked") << "1.8|shown|config is_changeable=no" << "" << "ok" << "force3d autoReStart (5dofAxis)" + ok << A + R << "";
+        QTest::newRow("1.9 locked, hidden: not forced") << "1.9|config is_changeable=no" << "" << "cancel" << "lock (force3d) (5dofAxis) (advanced) (ok) cancel" << L + A + R << "";
+        QTest::newRow("1.11: no axis") << "1.11|shown" << "space" << "ok" << "force3d autoReStart (5dofAxis)" + ok << L + A + R + marker + "yes" + restart + "yes" << "";
+        QTest::newRow("1.12: only the axis changed") << "1.12|shown" << "down" << "ok" << "force3d autoReStart 5dofAxis" + ok << all + marker + "no" + restart + "yes" + X + " 0.000 0.000 -1.000" << "";
+        QTest::newRow("1.24 locked") << "1.24|shown|config is_changeable=no" << "" << "cancel" << "lock (force3d) (autoReStart) (5dofAxis) (advanced) (ok) cancel" << all << "";
+        QTest::newRow("OK untouched sends nothing") << "1.24|shown" << "" << "ok" << "force3d autoReStart 5dofAxis" + ok << all << "";
+        QTest::newRow("Cancel untouched sends nothing") << "1.24" << "" << "cancel" << "force3d 5dofAxis" + ok << L + A + forced + R + X << "";
+        QTest::newRow("axis refused") << "1.24|shown|fail:tracking axis_5dof_central *" << "space" << "ok" << "force3d autoReStart 5dofAxis" + ok << all + marker + "yes" + restart + "yes" + X + " 0.000 0.000 1.000" << error + "values of the 5DOF central axis";
+        QTest::newRow("ORBILUX, off: turned on") << "1.24|shown|orbilux|tracking auto_restart=no" << "" << "ok" << "force3d 5dofAxis" + ok << "tracking auto_restart, tracking auto_restart yes, " + all << "";
+        QTest::newRow("ORBILUX 0.14, on: left") << "0.14|shown|orbilux" << "" << "ok" << "force3d (5dofAxis) ok cancel" << "tracking auto_restart, standard calculate_marker" << ""; // the second read is answered from the first
+        QTest::newRow("ORBILUX 0.13: not asked") << "0.13|shown|orbilux" << "" << "ok" << "force3d (5dofAxis) ok cancel" << "standard calculate_marker" << "";
+        QTest::newRow("pulse frequency") << "1.21|shown" << "pulse:frequency" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "frequency 60.000000" << "";
+        QTest::newRow("pulse frequency refused") << "1.21|shown|fail:tracking pulse*" << "pulse:frequency" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "frequency 60.000000" << error + "inertial tracking frequency";
+        QTest::newRow("pulse cameras refused") << "1.21|shown|fail:tracking pulse*" << "pulse:cameraSynchronous" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "synchronous_cameras" << error + "inertial tracking synchronous to cameras";
+        QTest::newRow("pulse sensor refused") << "1.21|shown|fail:tracking pulse*" << "pulse:inertialSensor" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "inertial_sensor " << error + "inertial tracking to sensor";
+        QTest::newRow("pulse before 1.21") << "1.20|shown" << "pulse:frequency" << "ok" << "force3d autoReStart 5dofAxis" + ok << all << error + "inertial tracking settings";
+        QTest::newRow("no preferences file") << "1.24|noangle|nofile" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "";
+        QTest::newRow("exact words: only HIDE true hides") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE VISIBLE=\"True\"/><AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"TRUE\"/></VELORA>" << "" << "cancel" << "force3d autoReStart 5dofAxis ok cancel" << L + A + "standard fixed_angle b04, " + R + X << "";
+        QTest::newRow("no attributes: neither") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE/><AUTO_RESTART_MEA_AFTER_SYNC_LOST/><OTHER/></VELORA>" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "";
+        QTest::newRow("a comment clears the advanced button") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE VISIBLE=\"true\"/><!-- x --></VELORA>" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "";
+        QTest::newRow("wrong root") << "1.24|noangle|prefs:<ZEM><FIXED_ANGLE VISIBLE=\"true\"/></ZEM>" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << load + " while parsing " + file + " : The file doesn't look like a valid preferences file" + builtIn;
+        QTest::newRow("malformed") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE/></VELORA" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << load + " while parsing " + file + " (Line 1, Column 31) :\nunexpected end of file" + builtIn;
+        QTest::newRow("a directory where the file belongs") << "1.24|noangle|obstacle:file" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << load + ". File " + file + " cannot be opened for reading" + builtIn + "|Error: Writing tracking preferences. File " + file + " cannot be opened for writing";
+        QTest::newRow("a file where the directory belongs") << "1.24|noangle|obstacle:dir" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "Error: Writing tracking preferences. Directory " + QDir::homePath() + Folder + " doesn't exist and cannot be created";
+        // clang-format on
+    }
+    void session()
+    {
+        QFETCH(QString, setup);
+        QFETCH(QString, keys);
+        QFETCH(QString, button);
+        QStringList parts = setup.split('|');
+        const QStringList version = parts.takeFirst().split('.');
+        controller.backendVersions().backendVersion = { version[0].toInt(), version[1].toInt(), 0 };
+        QByteArray preferences = "<VELORA>";
+        if (parts.contains("remembered"))
+            preferences += "<FIXED_ANGLE VISIBLE=\"true\"/>";
+        if (parts.contains("shown"))
+            preferences += "<AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"false\"/>";
+        preferences += "</VELORA>";
+        for (const QString &part : parts) {
+            if (part == "orbilux")
+                controller.backendVersions().systemType = "ORBILUX compact";
+            else if (part == "noangle")
+                controller.setValue("standard fixed_angle b03", "no 0 no 0 no 0");
+            else if (part.startsWith("prefs:"))
+                preferences = part.mid(6).toUtf8();
+            else if (part.startsWith("fail:"))
+                controller.failCommand(part.mid(5));
+            else if (part.contains('='))
+                controller.setValue(part.section('=', 0, 0), part.section('=', 1));
+        }
+        // Things in the way stop even root, whom permissions would not.
+        if (parts.contains("obstacle:file"))
+            QVERIFY(QDir().mkpath(preferencesFile()));
+        else if (parts.contains("obstacle:dir"))
+            QVERIFY(QFile(QDir::homePath() + "/.ZEM").open(QIODevice::WriteOnly));
+        else if (!parts.contains("nofile"))
+            QVERIFY(writePreferences(preferences));
+        QScopedPointer<TrackingDlg> dialog(newDialog());
+        QStringList controls;
+        const int result = open(
+            *dialog,
+            [&](QWidget *modal) {
+                if (modal->windowIcon().pixmap(16).toImage()
+                    == QIcon(":/lock.png").pixmap(16).toImage())
+                    controls << "lock";
+                for (const char *name :
+                    { "checkBox_force3d", "checkBox_autoReStart", "comboBox_5dofAxis",
+                        "pushButton_advanced", "pushButton_ok", "pushButton_cancel" }) {
+                    const QWidget *widget = child(modal, name);
+                    const QString shortName = QString(name).section('_', 1);
+                    if (widget->isVisible())
+                        controls << (widget->isEnabled() ? shortName : '(' + shortName + ')');
+                }
+                if (keys.contains("space"))
+                    QTest::keyClick(child(modal, "checkBox_force3d"), Qt::Key_Space);
+                if (keys.contains("down"))
+                    QTest::keyClick(child(modal, "comboBox_5dofAxis"), Qt::Key_Down);
+                if (keys.startsWith("pulse:")) { // hidden at every opening; its rules still hold
+                    child<QRadioButton>(modal, "radioButton_frequency")->setChecked(true);
+                    child<QRadioButton>(modal, qPrintable("radioButton_" + keys.mid(6)))
+                        ->setChecked(true);
+                    child<QDoubleSpinBox>(modal, "doubleSpinBox_frequency")->setValue(60);
+                }
+            },
+            button);
+        QCOMPARE(result, int(button == "ok" ? QDialog::Accepted : QDialog::Rejected));
+        QTEST(controls.join(' '), "controls");
+        QTEST(controller.commands().join(", "), "commands");
+        // Destroying the dialog writes what it showed: once offered, the
+        // advanced button stays offered at the next start.
+        dialog.reset();
+        QTEST(controller.reports().join('|'), "report");
+        if (parts.contains("obstacle:file") || parts.contains("obstacle:dir"))
+            return;
+        const bool hide = !controls.contains("autoReStart") && !parts.contains("shown");
+        QCOMPARE(readPreferences(),
+            QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<VELORA>\n    <FIXED_ANGLE")
+                + (controls.join(' ').contains("advanced") ? " VISIBLE=\"true\"" : "")
+                + "/>\n    <AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"" + (hide ? "true" : "false")
+                + "\"/>\n</VELORA>\n");
+    }
+    void axis_data()
+    {
+        testkit::columns<QString, QString>({ "reply", "shown" }); // null reply: query fails
+        // clang-format off
+        QTest::newRow("z up") << "0.000 0.000 1.000" << "z|";
+        QTest::newRow("-x") << "-1 0 0" << "-x|";
+        QTest::newRow("tilted, in mm") << "0.5 0 0.866" << "|x = 0.500 mm, y = 0.000 mm, z = 0.866 mm";
+        QTest::newRow("split at blanks") << " 0  -1 0 " << "-y|";
+        QTest::newRow("first three fields used") << "0 0 -1 extra" << "-z|";
+        QTest::newRow("too few fields") << "0 1" << "|";
+        QTest::newRow("no number") << "0 up 1" << "|";
+        QTest::newRow("query fails") << QString() << "|";
+        // clang-format on
+    }
+    void axis()
+    {
+        QFETCH(QString, reply);
+        QScopedPointer<TrackingDlg> dialog(newDialog());
+        // A first opening shows a vector, so that clearing it shows.
+        controller.setValue("tracking axis_5dof_central", "0.1 0.2 0.3");
+        open(*dialog, {});
+        if (reply.isNull())
+            controller.failCommand("tracking axis_5dof_central");
+        controller.setValue("tracking axis_5dof_central", reply);
+        QString shown;
+        open(*dialog, [&](QWidget *modal) {
+            shown = child<QComboBox>(modal, "comboBox_5dofAxis")->currentText() + '|'
+                + child<QLabel>(modal, "label_display5dof")->text();
+        });
+        QTEST(shown, "shown");
+    }
+    void advancedOpensFixedAngles()
+    {
+        QScopedPointer<TrackingDlg> dialog(newDialog());
+        ModalDriver driver;
+        driver.answer([&](QWidget *modal) { testkit::clickLater(modal, "pushButton_advanced"); });
+        driver.answer([&](QWidget *fixedAngles) {
+            fixedAngles->close();
+            testkit::clickLater(dialog.data(), "pushButton_cancel");
+        });
+        dialog->update_and_exec();
+        QCOMPARE(driver.seen().value(0).title + '|' + driver.seen().value(1).title,
+            "Single Markers|Fixed Angle Settings");
+    }
+    // A disk that is full after 16 bytes: the previous file stays as it was.
+    void failedWriteKeepsPreviousFile()
+    {
+        const QByteArray previous("<VELORA><FIXED_ANGLE VISIBLE=\"true\"/></VELORA>");
+        QVERIFY(writePreferences(previous));
+        QScopedPointer<TrackingDlg> dialog(newDialog());
+        rlimit saved {};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &saved), 0);
+        rlimit small = saved;
+        small.rlim_cur = 16;
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        dialog.reset();
+        setrlimit(RLIMIT_FSIZE, &saved);
+        std::signal(SIGXFSZ, handler);
+        QCOMPARE(controller.reports(),
+            QStringList { "Error: Writing tracking preferences. File " + preferencesFile()
+                + " cannot be opened for writing" });
+        QCOMPARE(readPreferences(), previous);
+        QCOMPARE(QDir(QDir::homePath() + Folder).entryList(QDir::Files | QDir::Hidden),
+            QStringList { "trackingsettings-preferences.xml" });
+    }
 
 private:
     // Opens the dialog, runs action on it while shown, then clicks the button.
@@ -79,217 +264,6 @@ int TestTrackingDlg::open(
         testkit::clickLater(modal, qPrintable("pushButton_" + button));
     });
     return dialog.update_and_exec();
-}
-
-// One opening from construction to the button: each gate appears at its
-// version and just below it.
-void TestTrackingDlg::session_data()
-{
-    // version|shown|remembered|noangle|orbilux|prefs:XML|nofile|obstacle:dir|file|fail:PATTERN|PATH=VALUE
-    QTest::addColumn<QString>("setup");
-    QTest::addColumn<QString>("keys"); // space: 3DOF box, down: axis combo, pulse:RADIO
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("controls"); // visible ones; disabled in brackets
-    QTest::addColumn<QString>("commands"); // every command from construction on
-    QTest::addColumn<QString>("report"); // until the dialog is destroyed
-
-    const QString L = "config is_changeable, ",
-                  R = "standard calculate_marker, tracking auto_restart";
-    const QString A = "standard number_of_bodies, standard fixed_angle b01, standard fixed_angle "
-                      "b02, standard fixed_angle b03, ";
-    const QString X = ", tracking axis_5dof_central", all = L + A + R + X,
-                  forced = "tracking auto_restart yes, ";
-    const QString ok = " advanced ok cancel", marker = ", standard calculate_marker ",
-                  restart = ", tracking auto_restart ";
-    const QString pulse = all + ", tracking pulse ", error = "Error: Unable to set ";
-    const QString plain = L + A + "standard fixed_angle b04, " + forced + R + X,
-                  file = preferencesFile();
-    const QString load = "Error: Loading tracking settings preferences",
-                  builtIn = ". Using built-in values";
-    // clang-format off
-    QTest::newRow("0.13: no auto restart") << "0.13|shown" << "space" << "ok" << "force3d (autoReStart) (5dofAxis) ok cancel" << "standard calculate_marker, standard calculate_marker yes" << "";
-    QTest::newRow("0.13, hidden: not forced") << "0.13" << "" << "ok" << "force3d (5dofAxis) ok cancel" << "standard calculate_marker" << "";
-    QTest::newRow("0.14, Cancel sends what was read") << "0.14|shown" << "space" << "cancel" << "force3d autoReStart (5dofAxis) ok cancel" << R + marker + "no" + restart + "yes" << "";
-    QTest::newRow("0.14, hidden: forced") << "0.14" << "" << "ok" << "force3d (5dofAxis) ok cancel" << forced + R << "";
-    QTest::newRow("1.5 remembered: old") << "1.5|shown|remembered" << "" << "ok" << "force3d autoReStart (5dofAxis) (advanced) ok cancel" << R << "TrackingSettings: Old version of Pelicam Controller";
-    QTest::newRow("1.6: a body holds an angle") << "1.6|shown" << "" << "ok" << "force3d autoReStart (5dofAxis)" + ok << A + R << "";
-    QTest::newRow("1.6: no angle held") << "1.6|shown|standard fixed_angle b03=no 0 no 0 no 0" << "" << "ok" << "force3d autoReStart (5dofAxis) ok cancel" << A + "standard fixed_angle b04, " + R << "";
-    QTest::newRow("1.6: remembered, not searched") << "1.6|shown|remembered|standard fixed_angle b03=no 0 no 0 no 0" << "" << "ok" << "force3d autoReStart (5dofAxis)" + ok << R << "";
-    QTest::newRow("1.8: never locked") << "1.8|shown|config is_changeable=no" << "" << "ok" << "force3d autoReStart (5dofAxis)" + ok << A + R << "";
-    QTest::newRow("1.9 locked, hidden: not forced") << "1.9|config is_changeable=no" << "" << "cancel" << "lock (force3d) (5dofAxis) (advanced) (ok) cancel" << L + A + R << "";
-    QTest::newRow("1.11: no axis") << "1.11|shown" << "space" << "ok" << "force3d autoReStart (5dofAxis)" + ok << L + A + R + marker + "yes" + restart + "yes" << "";
-    QTest::newRow("1.12: only the axis changed") << "1.12|shown" << "down" << "ok" << "force3d autoReStart 5dofAxis" + ok << all + marker + "no" + restart + "yes" + X + " 0.000 0.000 -1.000" << "";
-    QTest::newRow("1.24 locked") << "1.24|shown|config is_changeable=no" << "" << "cancel" << "lock (force3d) (autoReStart) (5dofAxis) (advanced) (ok) cancel" << all << "";
-    QTest::newRow("OK untouched sends nothing") << "1.24|shown" << "" << "ok" << "force3d autoReStart 5dofAxis" + ok << all << "";
-    QTest::newRow("Cancel untouched sends nothing") << "1.24" << "" << "cancel" << "force3d 5dofAxis" + ok << L + A + forced + R + X << "";
-    QTest::newRow("axis refused") << "1.24|shown|fail:tracking axis_5dof_central *" << "space" << "ok" << "force3d autoReStart 5dofAxis" + ok << all + marker + "yes" + restart + "yes" + X + " 0.000 0.000 1.000" << error + "values of the 5DOF central axis";
-    QTest::newRow("ORBILUX, off: turned on") << "1.24|shown|orbilux|tracking auto_restart=no" << "" << "ok" << "force3d 5dofAxis" + ok << "tracking auto_restart, tracking auto_restart yes, " + all << "";
-    QTest::newRow("ORBILUX 0.14, on: left") << "0.14|shown|orbilux" << "" << "ok" << "force3d (5dofAxis) ok cancel" << "tracking auto_restart, standard calculate_marker" << ""; // the second read is answered from the first
-    QTest::newRow("ORBILUX 0.13: not asked") << "0.13|shown|orbilux" << "" << "ok" << "force3d (5dofAxis) ok cancel" << "standard calculate_marker" << "";
-    QTest::newRow("pulse frequency") << "1.21|shown" << "pulse:frequency" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "frequency 60.000000" << "";
-    QTest::newRow("pulse frequency refused") << "1.21|shown|fail:tracking pulse*" << "pulse:frequency" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "frequency 60.000000" << error + "inertial tracking frequency";
-    QTest::newRow("pulse cameras refused") << "1.21|shown|fail:tracking pulse*" << "pulse:cameraSynchronous" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "synchronous_cameras" << error + "inertial tracking synchronous to cameras";
-    QTest::newRow("pulse sensor refused") << "1.21|shown|fail:tracking pulse*" << "pulse:inertialSensor" << "ok" << "force3d autoReStart 5dofAxis" + ok << pulse + "inertial_sensor " << error + "inertial tracking to sensor";
-    QTest::newRow("pulse before 1.21") << "1.20|shown" << "pulse:frequency" << "ok" << "force3d autoReStart 5dofAxis" + ok << all << error + "inertial tracking settings";
-    QTest::newRow("no preferences file") << "1.24|noangle|nofile" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "";
-    QTest::newRow("exact words: only HIDE true hides") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE VISIBLE=\"True\"/><AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"TRUE\"/></VELORA>" << "" << "cancel" << "force3d autoReStart 5dofAxis ok cancel" << L + A + "standard fixed_angle b04, " + R + X << "";
-    QTest::newRow("no attributes: neither") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE/><AUTO_RESTART_MEA_AFTER_SYNC_LOST/><OTHER/></VELORA>" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "";
-    QTest::newRow("a comment clears the advanced button") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE VISIBLE=\"true\"/><!-- x --></VELORA>" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "";
-    QTest::newRow("wrong root") << "1.24|noangle|prefs:<ZEM><FIXED_ANGLE VISIBLE=\"true\"/></ZEM>" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << load + " while parsing " + file + " : The file doesn't look like a valid preferences file" + builtIn;
-    QTest::newRow("malformed") << "1.24|noangle|prefs:<VELORA><FIXED_ANGLE/></VELORA" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << load + " while parsing " + file + " (Line 1, Column 31) :\nunexpected end of file" + builtIn;
-    QTest::newRow("a directory where the file belongs") << "1.24|noangle|obstacle:file" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << load + ". File " + file + " cannot be opened for reading" + builtIn + "|Error: Writing tracking preferences. File " + file + " cannot be opened for writing";
-    QTest::newRow("a file where the directory belongs") << "1.24|noangle|obstacle:dir" << "" << "cancel" << "force3d 5dofAxis ok cancel" << plain << "Error: Writing tracking preferences. Directory " + preferencesDirectory() + " doesn't exist and cannot be created";
-    // clang-format on
-}
-
-void TestTrackingDlg::session()
-{
-    QFETCH(QString, setup);
-    QFETCH(QString, keys);
-    QFETCH(QString, button);
-    QStringList parts = setup.split('|');
-    const QStringList version = parts.takeFirst().split('.');
-    controller.backendVersions().backendVersion = { version[0].toInt(), version[1].toInt(), 0 };
-    QByteArray preferences = "<VELORA>";
-    if (parts.contains("remembered"))
-        preferences += "<FIXED_ANGLE VISIBLE=\"true\"/>";
-    if (parts.contains("shown"))
-        preferences += "<AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"false\"/>";
-    preferences += "</VELORA>";
-    for (const QString &part : parts) {
-        if (part == "orbilux")
-            controller.backendVersions().systemType = "ORBILUX compact";
-        else if (part == "noangle")
-            controller.setValue("standard fixed_angle b03", "no 0 no 0 no 0");
-        else if (part.startsWith("prefs:"))
-            preferences = part.mid(6).toUtf8();
-        else if (part.startsWith("fail:"))
-            controller.failCommand(part.mid(5));
-        else if (part.contains('='))
-            controller.setValue(part.section('=', 0, 0), part.section('=', 1));
-    }
-    // Things in the way stop even root, whom permissions would not.
-    if (parts.contains("obstacle:file"))
-        QVERIFY(QDir().mkpath(preferencesFile()));
-    else if (parts.contains("obstacle:dir"))
-        QVERIFY(QFile(QDir::homePath() + "/.ZEM").open(QIODevice::WriteOnly));
-    else if (!parts.contains("nofile"))
-        QVERIFY(writePreferences(preferences));
-    QScopedPointer<TrackingDlg> dialog(newDialog());
-    QStringList controls;
-    const int result = open(
-        *dialog,
-        [&](QWidget *modal) {
-            if (modal->windowIcon().pixmap(16).toImage()
-                == QIcon(":/lock.png").pixmap(16).toImage())
-                controls << "lock";
-            for (const char *name :
-                { "checkBox_force3d", "checkBox_autoReStart", "comboBox_5dofAxis",
-                    "pushButton_advanced", "pushButton_ok", "pushButton_cancel" }) {
-                const QWidget *widget = child(modal, name);
-                const QString shortName = QString(name).section('_', 1);
-                if (widget->isVisible())
-                    controls << (widget->isEnabled() ? shortName : '(' + shortName + ')');
-            }
-            if (keys.contains("space"))
-                QTest::keyClick(child(modal, "checkBox_force3d"), Qt::Key_Space);
-            if (keys.contains("down"))
-                QTest::keyClick(child(modal, "comboBox_5dofAxis"), Qt::Key_Down);
-            if (keys.startsWith("pulse:")) { // hidden at every opening; its rules still hold
-                child<QRadioButton>(modal, "radioButton_frequency")->setChecked(true);
-                child<QRadioButton>(modal, qPrintable("radioButton_" + keys.mid(6)))
-                    ->setChecked(true);
-                child<QDoubleSpinBox>(modal, "doubleSpinBox_frequency")->setValue(60);
-            }
-        },
-        button);
-    QCOMPARE(result, int(button == "ok" ? QDialog::Accepted : QDialog::Rejected));
-    QTEST(controls.join(' '), "controls");
-    QTEST(controller.commands().join(", "), "commands");
-    // Destroying the dialog writes what it showed: once offered, the
-    // advanced button stays offered at the next start.
-    dialog.reset();
-    QTEST(controller.reports().join('|'), "report");
-    if (parts.contains("obstacle:file") || parts.contains("obstacle:dir"))
-        return;
-    const bool hide = !controls.contains("autoReStart") && !parts.contains("shown");
-    QCOMPARE(readPreferences(),
-        QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<VELORA>\n    <FIXED_ANGLE")
-            + (controls.join(' ').contains("advanced") ? " VISIBLE=\"true\"" : "")
-            + "/>\n    <AUTO_RESTART_MEA_AFTER_SYNC_LOST HIDE=\"" + (hide ? "true" : "false")
-            + "\"/>\n</VELORA>\n");
-}
-
-void TestTrackingDlg::axis_data()
-{
-    QTest::addColumn<QString>("reply"); // null: the query fails
-    QTest::addColumn<QString>("shown"); // selected item | display
-    // clang-format off
-    QTest::newRow("z up") << "0.000 0.000 1.000" << "z|";
-    QTest::newRow("-x") << "-1 0 0" << "-x|";
-    QTest::newRow("tilted, in mm") << "0.5 0 0.866" << "|x = 0.500 mm, y = 0.000 mm, z = 0.866 mm";
-    QTest::newRow("split at blanks") << " 0  -1 0 " << "-y|";
-    QTest::newRow("first three fields used") << "0 0 -1 extra" << "-z|";
-    QTest::newRow("too few fields") << "0 1" << "|";
-    QTest::newRow("no number") << "0 up 1" << "|";
-    QTest::newRow("query fails") << QString() << "|";
-    // clang-format on
-}
-
-void TestTrackingDlg::axis()
-{
-    QFETCH(QString, reply);
-    QScopedPointer<TrackingDlg> dialog(newDialog());
-    // A first opening shows a vector, so that clearing it shows.
-    controller.setValue("tracking axis_5dof_central", "0.1 0.2 0.3");
-    open(*dialog, {});
-    if (reply.isNull())
-        controller.failCommand("tracking axis_5dof_central");
-    controller.setValue("tracking axis_5dof_central", reply);
-    QString shown;
-    open(*dialog, [&](QWidget *modal) {
-        shown = child<QComboBox>(modal, "comboBox_5dofAxis")->currentText() + '|'
-            + child<QLabel>(modal, "label_display5dof")->text();
-    });
-    QTEST(shown, "shown");
-}
-
-void TestTrackingDlg::advancedOpensFixedAngles()
-{
-    QScopedPointer<TrackingDlg> dialog(newDialog());
-    ModalDriver driver;
-    driver.answer([&](QWidget *modal) { testkit::clickLater(modal, "pushButton_advanced"); });
-    driver.answer([&](QWidget *fixedAngles) {
-        fixedAngles->close();
-        testkit::clickLater(dialog.data(), "pushButton_cancel");
-    });
-    dialog->update_and_exec();
-    QCOMPARE(driver.seen().size(), 2);
-    QCOMPARE(driver.seen().at(0).title, QString("Single Markers"));
-    QCOMPARE(driver.seen().at(1).title, QString("Fixed Angle Settings"));
-}
-
-// A disk that is full after 16 bytes: the previous file stays as it was.
-void TestTrackingDlg::failedWriteKeepsPreviousFile()
-{
-    const QByteArray previous("<VELORA><FIXED_ANGLE VISIBLE=\"true\"/></VELORA>");
-    QVERIFY(writePreferences(previous));
-    QScopedPointer<TrackingDlg> dialog(newDialog());
-    rlimit saved {};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &saved), 0);
-    rlimit small = saved;
-    small.rlim_cur = 16;
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
-    dialog.reset();
-    setrlimit(RLIMIT_FSIZE, &saved);
-    std::signal(SIGXFSZ, handler);
-    QCOMPARE(controller.reports(),
-        QStringList { "Error: Writing tracking preferences. File " + preferencesFile()
-            + " cannot be opened for writing" });
-    QCOMPARE(readPreferences(), previous);
-    QCOMPARE(QDir(preferencesDirectory()).entryList(QDir::Files | QDir::Hidden),
-        QStringList { "trackingsettings-preferences.xml" });
 }
 
 // The dialog keeps its preferences under the home directory: a home of its

@@ -1,0 +1,131 @@
+// A host and a user doing things in any order: the module's properties and
+// lifecycle calls, the menu actions with everything in the dialogs clicked
+// and typed into, body operations on every tab, hand-overs and the messages
+// of other modules, and the fixed-angle dialog with its table.
+#include "fuzzing.h"
+
+#include <bodyadministrationdlg.h>
+#include <bodytypeadministrationtab.h>
+#include <fixedangledlg.h>
+#include <menuentry.h>
+#include <simulatedcontroller.h>
+#include <trackingsettingbodyadminmodule.h>
+
+#include <QAction>
+#include <QApplication>
+
+namespace
+{
+
+const char *const Scenarios[] = { "default", "locked", "old", "orbilux" };
+const char *const Types[] = { "standard", "gripwand", "multiusergripwand_head", "fingertracking",
+    "measurementtool", "measurementtool_reference" };
+const char *const Receivers[] = { "BodyAdministrationModule", "GlobalEvent", "BodyCalModule" };
+const char *const Senders[] = { "ConfigurationModule", "BodyCalModule", "BodyAdjustmentModule" };
+const char *const Texts[] = { "reopen", "bodycalibration available", "bodyadjustment available",
+    "ActiveConfigurationChanged", "reopen ", "Bodycalibration available" };
+
+void setProperty(TrackingSettingBodyAdminModule &module, sim::SimulatedController &controller,
+    QWidget *parent, FuzzBytes &bytes)
+{
+    static const char *const names[]
+        = { "CommandManager", "ModuleParent", "BackendVersions", "ObserverMode", "Unknown" };
+    const QVariant values[]
+        = { QVariant::fromValue<IOManager *>(&controller), QVariant::fromValue(parent),
+              QVariant::fromValue(&controller.backendVersions()), QVariant(true),
+              QVariant(QStringLiteral("text")), QVariant::fromValue<QObject *>(qApp), QVariant() };
+    module.setModuleProperty(names[bytes.pick(5)], values[bytes.pick(7)]);
+}
+
+void bodyOperation(BodyTypeAdministrationTab *tab, FuzzBytes &bytes)
+{
+    const QString type = QLatin1String(Types[bytes.pick(6)]);
+    const BodyTypeEntry *entry
+        = tab ? static_cast<const BodyTypeAdministrationTab *>(tab)->entry(type) : nullptr;
+    if (!entry)
+        return;
+    const int count = entry->bodies.size();
+    const int operation = count == 0 ? 5 : bytes.pick(6);
+    const int index = bytes.pick(count);
+    switch (operation) {
+    case 0:
+        tab->setBodyActive(type, index, bytes.pick(2));
+        break;
+    case 1:
+        tab->setBodyDescription(type, index, QString::fromLatin1(bytes.text(120)));
+        break;
+    case 2:
+        tab->resetBody(type, index);
+        break;
+    case 3:
+        tab->deleteBody(type, index);
+        break;
+    case 4:
+        tab->switchBodies(type, index, bytes.pick(count));
+        break;
+    default:
+        tab->setNumberOfBodies(type, bytes.pick(qMax(0, tab->maxNumberOfBodies(type)) + 1));
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    FuzzBytes bytes { data, size };
+    sim::SimulatedController controller;
+    controller.setManualClock(true);
+    controller.loadScenario(QStringLiteral(":/scenarios/%1.scn").arg(Scenarios[bytes.pick(4)]));
+    QWidget parent;
+    TrackingSettingBodyAdminModule module;
+    for (int i = 0; i < 4; ++i)
+        setProperty(module, controller, &parent, bytes);
+    Fuzzing::driveModals(&bytes);
+
+    for (int steps = 0; !bytes.atEnd() && steps < 200; ++steps) {
+        const QList<MenuEntry *> entries = module.menuEntries();
+        auto *dialog = qobject_cast<BodyAdministrationDlg *>(entries.value(1)->dialog);
+        switch (bytes.pick(12)) {
+        case 0:
+            setProperty(module, controller, &parent, bytes);
+            break;
+        case 1:
+            module.shutdown();
+            break;
+        case 2:
+            module.cleanup();
+            break;
+        case 3:
+            entries.value(bytes.pick(2))->action->trigger();
+            break;
+        case 4:
+            controller.sendMessage(Receivers[bytes.pick(3)], Senders[bytes.pick(3)], 1,
+                bytes.pick(2) ? Texts[bytes.pick(6)] : bytes.text(40).constData());
+            break;
+        case 5:
+            controller.advanceClock(bytes.pick(256) * 50);
+            QApplication::processEvents();
+            break;
+        case 6:
+        case 7:
+            bodyOperation(dialog->tab(bytes.pick(4)), bytes);
+            break;
+        case 8:
+        case 9:
+            Fuzzing::poke(dialog, bytes);
+            break;
+        case 10:
+            if (dialog->currentTab())
+                dialog->currentTab()->update_tab();
+            break;
+        default:
+            FixedAngleDlg(&controller, &parent, &controller.backendVersions()).update_and_exec();
+        }
+    }
+    Fuzzing::driveModals(nullptr);
+    QApplication::processEvents();
+    module.shutdown();
+    module.cleanup();
+    Fuzzing::require(QApplication::topLevelWidgets().size() == 1, "a window outlives the module");
+    return 0;
+}

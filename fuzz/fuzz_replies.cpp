@@ -1,0 +1,91 @@
+// Whatever the controller answers, the module reports, goes on with a
+// neutral value and never crashes, overflows or hangs. The input doctors
+// the simulated controller, one rule a line, so that a failing input reads
+// as what it does:
+//
+//   version 1.11.0          controller software
+//   system ORBILUX C2       tracking-system model
+//   reply PATTERN = TEXT    every matching command answers TEXT
+//   once PATTERN = TEXT     the next matching command does
+//   open PATTERN = TEXT     TEXT fills the whole buffer, no zero byte
+//   fail PATTERN            every matching command fails
+//   set PATH = TEXT         the parameter itself holds TEXT
+//
+// A pattern is a command or a prefix ending in '*'. Everything after a line
+// "--" is a user's clicks on the dialogs.
+#include "fuzzing.h"
+
+#include <bodyadministrationdlg.h>
+#include <bodytypeadministrationtab.h>
+#include <filterdialog.h>
+#include <simulatedcontroller.h>
+#include <targetlibrary.h>
+#include <trackingdlg.h>
+
+#include <QApplication>
+
+namespace
+{
+
+void applyRule(sim::SimulatedController &controller, const QByteArray &line)
+{
+    const QByteArray word = line.left(line.indexOf(' '));
+    const QByteArray rest = line.mid(word.size() + 1);
+    const int equals = rest.indexOf(" = ");
+    const QString pattern = QString::fromLatin1(equals < 0 ? rest : rest.left(equals));
+    const QByteArray text = equals < 0 ? QByteArray() : rest.mid(equals + 3);
+    BackendVersions &versions = controller.backendVersions();
+    if (word == "version") {
+        const QList<QByteArray> parts = rest.split('.');
+        versions.backendVersion
+            = { parts.value(0).toInt(), parts.value(1).toInt(), parts.value(2).toInt() };
+    } else if (word == "system") {
+        versions.systemType = QString::fromLatin1(rest);
+    } else if (word == "fail") {
+        controller.failCommand(pattern);
+    } else if (word == "set") {
+        controller.setValue(pattern, QString::fromLatin1(text));
+    } else if (equals > 0 && (word == "reply" || word == "once" || word == "open")) {
+        controller.replaceReply(pattern, text, word == "once" ? 1 : -1, word == "open");
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray input
+        = QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size));
+    const int clicksAt = input.indexOf("\n--\n");
+    sim::SimulatedController controller;
+    controller.setManualClock(true);
+    for (const QByteArray &line : input.left(clicksAt).split('\n'))
+        applyRule(controller, line);
+    const int clicksFrom = clicksAt < 0 ? int(size) : clicksAt + 4;
+    FuzzBytes bytes { data + clicksFrom, size - size_t(clicksFrom) };
+    Fuzzing::driveModals(&bytes);
+
+    BackendVersions *versions = &controller.backendVersions();
+    {
+        BodyAdministrationDlg dialog(&controller, nullptr, versions);
+        for (int key = 0; key < 4; ++key) {
+            if (BodyTypeAdministrationTab *tab = dialog.tab(key))
+                tab->update_tab();
+        }
+        dialog.update_and_exec();
+        controller.advanceClock(100000);
+        dialog.update_and_exec();
+        FilterDialog(&controller, nullptr, versions).update_and_exec(bytes.pick(4), bytes.pick(3));
+    }
+    TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5")).update_and_exec();
+    Fuzzing::driveModals(nullptr);
+
+    for (const QString &command : controller.commands()) {
+        for (const QChar c : command)
+            Fuzzing::require(c >= QLatin1Char(' '), "a command carries a control character");
+    }
+    for (const QString &report : controller.reports())
+        Fuzzing::require(!report.trimmed().isEmpty(), "an empty report");
+    QApplication::processEvents();
+    return 0;
+}

@@ -1,0 +1,167 @@
+#include "fuzzing.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace
+{
+
+FuzzBytes *modalBytes = nullptr;
+QPointer<QWidget> lastModal;
+int sameModalTicks = 0;
+// Qt keeps references to argc and argv for the application's whole life.
+int qtArgc = 1;
+char *qtArgv[] = { const_cast<char *>("fuzz"), nullptr };
+
+void pokeTable(QTableWidget *table, FuzzBytes &bytes)
+{
+    if (table->rowCount() == 0 || table->columnCount() == 0)
+        return;
+    const int row = bytes.pick(table->rowCount());
+    const int column = bytes.pick(table->columnCount());
+    QTableWidgetItem *item = table->item(row, column);
+    switch (bytes.pick(4)) {
+    case 0:
+        table->setCurrentCell(row, column);
+        emit table->cellClicked(row, column);
+        break;
+    case 1:
+        emit table->cellDoubleClicked(row, column);
+        break;
+    case 2:
+        if (item && (item->flags() & Qt::ItemIsEditable))
+            item->setText(QString::fromLatin1(bytes.text(40)));
+        break;
+    default:
+        if (item && (item->flags() & Qt::ItemIsUserCheckable))
+            item->setCheckState(item->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+    }
+}
+
+void actOnModal()
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    if (!modal)
+        return;
+    sameModalTicks = modal == lastModal ? sameModalTicks + 1 : 0;
+    lastModal = modal;
+    FuzzBytes none { nullptr, 0 };
+    FuzzBytes &bytes = modalBytes ? *modalBytes : none;
+    if (sameModalTicks < 40 && bytes.pick(3) != 0) {
+        Fuzzing::poke(modal, bytes);
+        return;
+    }
+    auto *dialog = qobject_cast<QDialog *>(modal);
+    if (!dialog) {
+        modal->close();
+    } else if (qobject_cast<QMessageBox *>(dialog)) {
+        static const int answers[] = { QMessageBox::No, QMessageBox::Yes, QMessageBox::Ok };
+        dialog->done(answers[bytes.pick(3)]);
+    } else if (sameModalTicks > 45) {
+        dialog->done(QDialog::Rejected); // one that refuses to close
+    } else {
+        bytes.pick(2) ? dialog->accept() : dialog->reject();
+    }
+}
+
+// Qt never fires a timer again while its slot runs, so the timer only posts
+// the action: a dialog that the action opens is then answered as well.
+void answerModal()
+{
+    if (QApplication::activeModalWidget())
+        QMetaObject::invokeMethod(qApp, actOnModal, Qt::QueuedConnection);
+}
+
+} // namespace
+
+QByteArray FuzzBytes::text(int maxLength)
+{
+    const int length = qMin<qint64>(pick(maxLength + 1), qint64(size - qMin(at, size)));
+    const QByteArray result(reinterpret_cast<const char *>(data) + at, length);
+    at += size_t(length);
+    return result;
+}
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
+    static QTemporaryDir home; // the preferences file goes there
+    qputenv("HOME", QFile::encodeName(home.path()));
+    new QApplication(qtArgc, qtArgv);
+    // The offscreen platform says so for every dialog shown.
+    static const QtMessageHandler qtHandler = qInstallMessageHandler(nullptr);
+    qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext &where, const QString &text) {
+            if (!text.startsWith(QLatin1String("This plugin does not support")))
+                qtHandler(type, where, text);
+        });
+    auto *timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, answerModal);
+    timer->start(0);
+    return 0;
+}
+
+namespace Fuzzing
+{
+
+void require(bool ok, const QString &what)
+{
+    if (ok)
+        return;
+    std::fprintf(stderr, "==fuzz== %s\n", qPrintable(what));
+    std::abort();
+}
+
+void poke(QWidget *window, FuzzBytes &bytes)
+{
+    QList<QWidget *> widgets;
+    for (QWidget *widget : window->findChildren<QWidget *>()) {
+        QWidget *parent = widget->parentWidget();
+        const bool inner = qobject_cast<QAbstractSpinBox *>(parent)
+            || qobject_cast<QComboBox *>(parent) || qobject_cast<QTableWidget *>(parent);
+        if (!inner && widget->isEnabled() && widget->isVisibleTo(window))
+            widgets << widget;
+    }
+    if (widgets.isEmpty())
+        return;
+    QWidget *widget = widgets.at(bytes.pick(widgets.size()));
+    if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
+        button->click();
+    } else if (auto *table = qobject_cast<QTableWidget *>(widget)) {
+        pokeTable(table, bytes);
+    } else if (auto *spinBox = qobject_cast<QSpinBox *>(widget)) {
+        const qint64 range = qint64(spinBox->maximum()) - spinBox->minimum();
+        spinBox->setValue(int(spinBox->minimum() + qMin<qint64>(range, bytes.pick(256))));
+    } else if (auto *doubleSpinBox = qobject_cast<QDoubleSpinBox *>(widget)) {
+        const double step = (doubleSpinBox->maximum() - doubleSpinBox->minimum()) / 255;
+        doubleSpinBox->setValue(doubleSpinBox->minimum() + step * bytes.pick(256));
+    } else if (auto *comboBox = qobject_cast<QComboBox *>(widget)) {
+        comboBox->setCurrentIndex(bytes.pick(comboBox->count()));
+    } else if (auto *lineEdit = qobject_cast<QLineEdit *>(widget)) {
+        lineEdit->setText(QString::fromLatin1(bytes.text(40)));
+    } else if (auto *tabs = qobject_cast<QTabWidget *>(widget)) {
+        tabs->setCurrentIndex(bytes.pick(tabs->count()));
+    }
+}
+
+void driveModals(FuzzBytes *bytes)
+{
+    modalBytes = bytes;
+}
+
+} // namespace Fuzzing
