@@ -17,6 +17,32 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include <array>
+#include <utility>
+
+// A test's data columns: columns<int, QString>({ "row", "text" }).
+template<typename... T> void columns(const std::array<const char *, sizeof...(T)> &names)
+{
+    int i = 0;
+    (QTest::addColumn<T>(names[i++]), ...);
+}
+// The current data row's value in that column.
+template<typename T> T fetch(const char *name)
+{
+    return *static_cast<T *>(QTest::qData(name, qMetaTypeId<T>()));
+}
+
+// One data row, the values in the order of the columns.
+template<typename... T> void row(const char *name, const T &...values)
+{
+    (QTest::newRow(name) << ... << values);
+}
+// A list written as "a | b | c".
+inline QStringList L(const char *items)
+{
+    return QString::fromUtf8(items).split(" | ", Qt::SkipEmptyParts);
+}
+
 // The body administration dialog on the simulated controller's default
 // scenario, shown without its modal loop so that a test drives its widgets.
 // Standard bodies: b01 glasses from the library (re-calibrated), b02 the
@@ -47,14 +73,13 @@ public:
         return dialog;
     }
 
-    // A scenario change: "path = value" is set before the dialog opens,
-    // "@path = value" after it has read the controller, and "!pattern"
-    // makes every matching command fail from then on.
-    void setUp(const QStringList &changes) { m_changes = changes; }
-
-    // The dialog on the tab with this key, refreshed as a tab switch does.
-    BodyTypeAdministrationTab *open(int key = 0)
+    // The dialog on the tab with this key, refreshed as a tab switch does,
+    // after these scenario changes: "path = value" is set before the dialog
+    // opens, "@path = value" after it has read the controller, and
+    // "!pattern" makes every matching command fail from then on.
+    BodyTypeAdministrationTab *open(int key = 0, const QStringList &changes = {})
     {
+        m_changes = changes;
         apply(QString());
         if (!dialog)
             build();
@@ -86,13 +111,10 @@ public:
         ModalDriver::closeAllModals();
         if (tab)
             tab->about_to_exit();
-        delete driver;
-        delete dialog;
-        delete controller;
-        driver = nullptr;
-        dialog = nullptr;
+        delete std::exchange(driver, nullptr);
+        delete std::exchange(dialog, nullptr);
+        delete std::exchange(controller, nullptr);
         tab = nullptr;
-        controller = nullptr;
         return QApplication::topLevelWidgets().isEmpty();
     }
 
@@ -162,11 +184,6 @@ public:
                 chosen->click();
             });
         }
-    }
-    // A list written as "a | b | c".
-    static QStringList L(const char *items)
-    {
-        return QString::fromUtf8(items).split(" | ", Qt::SkipEmptyParts);
     }
     void apply(const QString &kind)
     {
