@@ -185,27 +185,24 @@ private slots:
 
 private:
     // Opens the dialog, hands it to action and returns the rows it showed.
-    QStringList run(const std::function<void(AngleTableWidget *)> &action, int *result = nullptr);
+    QStringList run(const std::function<void(AngleTableWidget *)> &action, int *result = nullptr)
+    {
+        QStringList rows;
+        FixedAngleDlg dialog(&controller, nullptr, &controller.backendVersions());
+        ModalDriver driver;
+        driver.answer([&](QWidget *modal) {
+            rows = describeRows(modal->findChild<AngleTableWidget *>());
+            action(modal->findChild<AngleTableWidget *>());
+        });
+        controller.clearLog();
+        const int code = dialog.update_and_exec();
+        if (result)
+            *result = code;
+        return rows;
+    }
 
     sim::SimulatedController controller;
 };
-
-QStringList TestFixedAngleDlg::run(
-    const std::function<void(AngleTableWidget *)> &action, int *result)
-{
-    QStringList rows;
-    FixedAngleDlg dialog(&controller, nullptr, &controller.backendVersions());
-    ModalDriver driver;
-    driver.answer([&](QWidget *modal) {
-        rows = describeRows(modal->findChild<AngleTableWidget *>());
-        action(modal->findChild<AngleTableWidget *>());
-    });
-    controller.clearLog();
-    const int code = dialog.update_and_exec();
-    if (result)
-        *result = code;
-    return rows;
-}
 
 QTEST_MAIN(TestFixedAngleDlg)
 #include "tst_fixedangledlg.moc"

@@ -245,7 +245,16 @@ private slots:
 private:
     // Opens the dialog, runs action on it while shown, then clicks the button.
     int open(TrackingDlg &dialog, const std::function<void(QWidget *)> &action,
-        const QString &button = "cancel");
+        const QString &button = "cancel")
+    {
+        ModalDriver driver; // answers one opening only
+        driver.answer([=](QWidget *modal) {
+            if (action)
+                action(modal);
+            testkit::clickLater(modal, qPrintable("pushButton_" + button));
+        });
+        return dialog.update_and_exec();
+    }
     TrackingDlg *newDialog()
     {
         return new TrackingDlg(&controller, nullptr, &controller.backendVersions(), "v3.0.5");
@@ -253,18 +262,6 @@ private:
 
     sim::SimulatedController controller;
 };
-
-int TestTrackingDlg::open(
-    TrackingDlg &dialog, const std::function<void(QWidget *)> &action, const QString &button)
-{
-    ModalDriver driver; // answers one opening only
-    driver.answer([=](QWidget *modal) {
-        if (action)
-            action(modal);
-        testkit::clickLater(modal, qPrintable("pushButton_" + button));
-    });
-    return dialog.update_and_exec();
-}
 
 // The dialog keeps its preferences under the home directory: a home of its
 // own, set before QApplication reads it.
