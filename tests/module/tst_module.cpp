@@ -98,7 +98,7 @@ private slots:
     // message receivers have a test of their own).
     void lifecycle()
     {
-        sim::SimulatedController controller; // its own: deleted dialogs leave receivers behind
+        sim::SimulatedController controller; // its own: a log with this host session only
         TrackingSettingBodyAdminModule module;
         module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
         const QList<MenuEntry *> first = module.menuEntries();
