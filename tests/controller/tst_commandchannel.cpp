@@ -6,6 +6,7 @@
 #include <testkit.h>
 
 #include <limits>
+#include <thread>
 
 // The grammar and the channel are what every dialog relies on for the exact
 // command texts and for reading replies safely.
@@ -155,7 +156,79 @@ private slots:
             QStringList({ "sendMessage", "standard", "VELORA4", text, "1", "1" }));
         CommandChannel(nullptr, nullptr).report(text); // nobody listens: no crash
     }
+
+    // What the channel heard in one burst of GUI work it does not ask again.
+    void betweenReads_data()
+    {
+        QTest::addColumn<QString>("between");
+        QTest::newRow("same burst: answered from memory") << QString();
+        QTest::newRow("a failed read is asked again") << "failed";
+        QTest::newRow("a write") << "write";
+        QTest::newRow("a meta command") << "meta";
+        QTest::newRow("the event loop waits") << "wait";
+        QTest::newRow("events processed") << "events";
+        QTest::newRow("a nested modal loop") << "modal";
+    }
+    void betweenReads()
+    {
+        QFETCH(QString, between);
+        sim::SimulatedController controller;
+        controller.setValue("status active", "none");
+        // Two channels on one link share what they heard, as a dialog and its tabs do.
+        CommandChannel dialog(&controller, &controller.backendVersions());
+        CommandChannel tab(&controller, &controller.backendVersions());
+        if (between == "failed")
+            controller.failCommand("status active", 3, 1);
+        QCOMPARE(dialog.stringOf("status active"), between == "failed" ? "" : "none");
+        controller.setValue("status active", "cal");
+        if (between == "write") {
+            tab.setParameter("tracking auto_restart yes");
+        } else if (between == "meta") {
+            tab.sendCommand("velora2 targetlib check_custom_calibration");
+        } else if (between == "wait") {
+            QEventLoop loop;
+            QTimer::singleShot(0, &loop, &QEventLoop::quit);
+            loop.exec();
+        } else if (between == "events") {
+            QCoreApplication::processEvents();
+        } else if (between == "modal") {
+            ModalDriver driver;
+            driver.pressButton(QMessageBox::Ok);
+            QMessageBox::information(nullptr, "VELORA4", "modal");
+        }
+        QCOMPARE(tab.stringOf("status active"), between.isEmpty() ? "none" : "cal");
+        QCOMPARE(controller.commands().count("status active"), between.isEmpty() ? 1 : 2);
+    }
+
+    void withoutEventDispatcher()
+    {
+        // Nothing tells where a burst ends there, so every read goes out.
+        sim::SimulatedController controller;
+        std::thread([&controller] {
+            CommandChannel channel(&controller, &controller.backendVersions());
+            channel.stringOf("status active");
+            channel.stringOf("status active");
+        }).join();
+        QCOMPARE(controller.commands().count("status active"), 2);
+    }
+
+    void lineBreaksStayInReplies()
+    {
+        sim::SimulatedController controller;
+        controller.replaceReply(
+            "body inertial_sensor standard b01", "VX\r\nstandard number_of_bodies 0");
+        CommandChannel channel(&controller, &controller.backendVersions());
+        const QString sensor = channel.stringOf("body inertial_sensor standard b01");
+        QCOMPARE(sensor, "VX\r\nstandard number_of_bodies 0");
+        // Where the reply leaves again, it cannot end the line early.
+        channel.stringOf("inertial sensor_handeye " + sensor);
+        channel.sendMessage(
+            "BodyCalModule", "BodyAdministrationModule", "OpenBodyCalDialog " + sensor);
+        QCOMPARE(controller.commands().last(),
+            "inertial sensor_handeye VX  standard number_of_bodies 0");
+        QCOMPARE(controller.messages().last(), "OpenBodyCalDialog VX  standard number_of_bodies 0");
+    }
 };
 
-QTEST_GUILESS_MAIN(TestCommandChannel)
+QTEST_MAIN(TestCommandChannel)
 #include "tst_commandchannel.moc"

@@ -93,12 +93,67 @@ private slots:
         module.shutdown();
         module.cleanup();
     }
+    // Hosts call shutdown(), cleanup() and menuEntries() in whatever order they
+    // like, and may delete the module's parent first ("parent"). Whatever they
+    // do, no receiver that no longer exists stays registered, and no name
+    // leaves twice.
+    void callOrders_data()
+    {
+        // listening: registrations each name keeps at the end, 1 while a dialog listens
+        testkit::columns<QString, int>({ "calls", "listening" });
+        // clang-format off
+        QTest::newRow("host's order") << "menu shutdown cleanup" << 0;
+        QTest::newRow("cleanup only") << "menu cleanup" << 0;
+        QTest::newRow("cleanup then shutdown") << "menu cleanup shutdown" << 0;
+        QTest::newRow("rebuilt after cleanup") << "menu cleanup menu" << 1;
+        QTest::newRow("rebuilt after shutdown") << "menu shutdown cleanup menu" << 1;
+        QTest::newRow("twice each") << "menu shutdown shutdown cleanup cleanup" << 0;
+        QTest::newRow("shutdown, menu again") << "menu shutdown menu" << 0;
+        QTest::newRow("before any menu") << "shutdown cleanup menu" << 1;
+        QTest::newRow("two rounds") << "menu cleanup menu shutdown cleanup menu cleanup" << 0;
+        QTest::newRow("parent deleted first") << "menu parent shutdown cleanup" << 0;
+        // clang-format on
+    }
+    void callOrders()
+    {
+        QFETCH(QString, calls);
+        sim::SimulatedController controller; // its own: a log of this host session only
+        TrackingSettingBodyAdminModule module;
+        QPointer<QWidget> parent = new QWidget;
+        setUp(module, false, &controller, parent);
+        for (const QString &call : calls.split(' ')) {
+            if (call == "menu")
+                QCOMPARE(module.menuEntries().size(), 2);
+            else if (call == "shutdown")
+                module.shutdown();
+            else if (call == "parent")
+                delete parent; // takes the dialogs with it
+            else
+                module.cleanup();
+            // A receiver destroyed while registered makes the controller abort.
+            controller.sendMessage(
+                "BodyAdministrationModule", "BodyCalModule", 1, "bodycalibration available");
+            controller.sendMessage(
+                "GlobalEvent", "ConfigurationModule", 1, "ActiveConfigurationChanged");
+        }
+        QMap<QString, int> registrations;
+        for (const auto &entry : controller.log()) {
+            if (entry.operation == "registerReceiver")
+                ++registrations[entry.receiver];
+            else if (entry.operation == "unregisterReceiver")
+                QVERIFY2(--registrations[entry.receiver] >= 0, qPrintable(entry.receiver));
+        }
+        QFETCH(int, listening);
+        QCOMPARE(registrations.value("BodyAdministrationModule"), listening);
+        QCOMPARE(registrations.value("GlobalEvent"), listening);
+        module.cleanup();
+        delete parent;
+    }
     // As a host uses the module: entries once, the actions open their dialogs,
-    // cleanup() ends the dialogs, entries again (the call orders and the
-    // message receivers have a test of their own).
+    // cleanup() ends the dialogs, entries again.
     void lifecycle()
     {
-        sim::SimulatedController controller; // its own: a log with this host session only
+        sim::SimulatedController controller; // its own: a log of this host session only
         TrackingSettingBodyAdminModule module;
         module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
         const QList<MenuEntry *> first = module.menuEntries();
@@ -126,12 +181,13 @@ private slots:
     }
 
 private:
-    void setUp(TrackingSettingBodyAdminModule &module, bool observer)
+    void setUp(TrackingSettingBodyAdminModule &module, bool observer,
+        sim::SimulatedController *io = nullptr, QWidget *parent = nullptr)
     {
-        module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
-        module.setModuleProperty(
-            "BackendVersions", QVariant::fromValue(&controller.backendVersions()));
-        module.setModuleProperty("ModuleParent", QVariant::fromValue(window));
+        io = io ? io : &controller;
+        module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(io));
+        module.setModuleProperty("BackendVersions", QVariant::fromValue(&io->backendVersions()));
+        module.setModuleProperty("ModuleParent", QVariant::fromValue(parent ? parent : window));
         module.setModuleProperty("ObserverMode", observer);
     }
     sim::SimulatedController controller;
