@@ -13,9 +13,6 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <cstdio>
-#include <cstdlib>
-
 namespace
 {
 
@@ -121,10 +118,8 @@ namespace Fuzzing
 
 void require(bool ok, const QString &what)
 {
-    if (ok)
-        return;
-    std::fprintf(stderr, "==fuzz== %s\n", qPrintable(what));
-    std::abort();
+    if (!ok)
+        qFatal("==fuzz== %s", qPrintable(what)); // aborts
 }
 
 void poke(QWidget *window, FuzzBytes &bytes)
