@@ -4,28 +4,12 @@
 #include "bodyadministrationdlg.h"
 #include "bodytypeadministrationtab.h"
 
-#include <modaldriver.h>
-#include <simulatedcontroller.h>
+#include <testkit.h>
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QStyle>
-#include <QTabWidget>
-#include <QTableWidget>
-#include <QtTest>
-
-#include <array>
 #include <utility>
 
-// A test's data columns: columns<int, QString>({ "row", "text" }).
-template<typename... T> void columns(const std::array<const char *, sizeof...(T)> &names)
-{
-    int i = 0;
-    (QTest::addColumn<T>(names[i++]), ...);
-}
+using testkit::columns;
+
 // The current data row's value in that column.
 template<typename T> T fetch(const char *name)
 {
@@ -38,9 +22,9 @@ template<typename... T> void row(const char *name, const T &...values)
     (QTest::newRow(name) << ... << values);
 }
 // A list written as "a | b | c".
-inline QStringList L(const char *items)
+inline QStringList L(const QString &items)
 {
-    return QString::fromUtf8(items).split(" | ", Qt::SkipEmptyParts);
+    return items.split(" | ", Qt::SkipEmptyParts);
 }
 
 // The body administration dialog on the simulated controller's default
@@ -105,8 +89,8 @@ public:
         QMetaObject::invokeMethod(tab, "doMeasurement_tl");
     }
 
-    // Closes what a failed test left open; true when no window remains.
-    bool cleanup()
+    // Closes what a failed test left open; no window may remain.
+    void cleanup()
     {
         ModalDriver::closeAllModals();
         if (tab)
@@ -115,7 +99,7 @@ public:
         delete std::exchange(dialog, nullptr);
         delete std::exchange(controller, nullptr);
         tab = nullptr;
-        return QApplication::topLevelWidgets().isEmpty();
+        testkit::closeAllAndCheck();
     }
 
     // The open tab's widget of that name, else the dialog's.
@@ -124,6 +108,7 @@ public:
         W *found = tab ? tab->findChild<W *>(name) : nullptr;
         return found ? found : dialog->findChild<W *>(name);
     }
+    bool enabled(const QString &name) const { return widget(name)->isEnabled(); }
     QTableWidget *table(const QString &name = "tableWidget_standard") const
     {
         return widget<QTableWidget>(name);
@@ -150,11 +135,14 @@ public:
         if (doubleClick)
             QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, rect.center());
     }
-    // Moves to the cell as the keyboard would (the table has the focus).
-    static void go(QTableWidget *table, int row, int column)
+    // Moves to the cell as the keyboard would (the table has the focus),
+    // and presses the key there if one is given.
+    static void go(QTableWidget *table, int row, int column, Qt::Key key = Qt::Key_unknown)
     {
         table->setFocus();
         table->setCurrentCell(row, column);
+        if (key != Qt::Key_unknown)
+            QTest::keyClick(table, key);
     }
 
     void clear()
@@ -208,8 +196,5 @@ public:
 private:
     QStringList m_changes;
 };
-
-#define FIXTURE_CLEANUP(fixture)                                                                   \
-    QVERIFY2(fixture.cleanup(), qPrintable(ModalDriver::topLevelWidgetNames().join(", ")))
 
 #endif // BODYADMINFIXTURE_H

