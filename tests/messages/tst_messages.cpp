@@ -4,6 +4,9 @@
 
 #include <testkit.h>
 
+using MakeRequest = std::function<HandOverRequest()>;
+Q_DECLARE_METATYPE(MakeRequest)
+
 class TestMessages : public QObject
 {
     Q_OBJECT
@@ -45,29 +48,21 @@ private slots:
 
     void requests_data()
     {
-        testkit::columns<QString, QString, int, QString, QString>(
-            { "kind", "bodyType", "index", "calibration", "sent" }); // sent: "receiver: text"
+        testkit::columns<MakeRequest, QString>({ "request", "sent" }); // sent: "receiver: text"
         // clang-format off
-        QTest::newRow("custom calibration pads the number") << "custom" << "standard" << 11 << "" << "BodyCalModule: OpenBodyCalDialog standard b12";
-        QTest::newRow("custom calibration of body 100") << "custom" << "gripwand" << 99 << "" << "BodyCalModule: OpenBodyCalDialog gripwand b100";
-        QTest::newRow("adjustment sends the bare number") << "adjust" << "standard" << 11 << "Custom" << "BodyAdjustmentModule: OpenBodyAdjustmentDialog standard|12|calibrated";
-        QTest::newRow("adjustment of an uncalibrated body") << "adjust" << "fingertracking" << 0 << "not calibrated" << "BodyAdjustmentModule: OpenBodyAdjustmentDialog fingertracking|1|uncalibrated";
-        QTest::newRow("only the exact text means uncalibrated") << "adjust" << "standard" << 0 << "Not calibrated" << "BodyAdjustmentModule: OpenBodyAdjustmentDialog standard|1|calibrated";
-        QTest::newRow("hybrid passes the calibration text") << "hybrid" << "standard" << 2 << "Target Library, re-calibrated" << "HybridBodyCalibration: OpenHybridBodyCalibration standard|3|Target Library, re-calibrated";
+        QTest::newRow("custom calibration pads the number") << MakeRequest([] { return HandOverRequest::customCalibration("standard", 11); }) << "BodyCalModule: OpenBodyCalDialog standard b12";
+        QTest::newRow("custom calibration of body 100") << MakeRequest([] { return HandOverRequest::customCalibration("gripwand", 99); }) << "BodyCalModule: OpenBodyCalDialog gripwand b100";
+        QTest::newRow("adjustment sends the bare number") << MakeRequest([] { return HandOverRequest::bodyAdjustment("standard", 11, "Custom"); }) << "BodyAdjustmentModule: OpenBodyAdjustmentDialog standard|12|calibrated";
+        QTest::newRow("adjustment of an uncalibrated body") << MakeRequest([] { return HandOverRequest::bodyAdjustment("fingertracking", 0, "not calibrated"); }) << "BodyAdjustmentModule: OpenBodyAdjustmentDialog fingertracking|1|uncalibrated";
+        QTest::newRow("only the exact text means uncalibrated") << MakeRequest([] { return HandOverRequest::bodyAdjustment("standard", 0, "Not calibrated"); }) << "BodyAdjustmentModule: OpenBodyAdjustmentDialog standard|1|calibrated";
+        QTest::newRow("hybrid passes the calibration text") << MakeRequest([] { return HandOverRequest::hybridCalibration("standard", 2, "Target Library, re-calibrated"); }) << "HybridBodyCalibration: OpenHybridBodyCalibration standard|3|Target Library, re-calibrated";
         // clang-format on
     }
     void requests()
     {
-        QFETCH(QString, kind);
-        QFETCH(QString, bodyType);
-        QFETCH(int, index);
-        QFETCH(QString, calibration);
-        const HandOverRequest request = kind == "custom"
-            ? HandOverRequest::customCalibration(bodyType, index)
-            : kind == "adjust" ? HandOverRequest::bodyAdjustment(bodyType, index, calibration)
-                               : HandOverRequest::hybridCalibration(bodyType, index, calibration);
+        QFETCH(MakeRequest, request);
         sim::SimulatedController controller;
-        request.send(CommandChannel(&controller, &controller.backendVersions()));
+        request().send(CommandChannel(&controller, &controller.backendVersions()));
         QCOMPARE(controller.log().size(), 1);
         const sim::SimulatedController::LogEntry entry = controller.log().first();
         QTEST(entry.receiver + ": " + entry.text, "sent");
