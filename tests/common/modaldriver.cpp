@@ -60,10 +60,8 @@ void ModalDriver::poll()
     Seen seen;
     seen.className = QString::fromLatin1(modal->metaObject()->className());
     seen.title = modal->windowTitle();
-    if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+    if (auto *box = qobject_cast<QMessageBox *>(modal))
         seen.text = box->text();
-        seen.informativeText = box->informativeText();
-    }
     m_seen.append(seen);
     // The same dialog may come back (a reopened dialog): it counts as new
     // once it has been hidden.

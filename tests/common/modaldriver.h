@@ -16,9 +16,9 @@ class QWidget;
 //
 // The driver polls QApplication::activeModalWidget() from a timer. Each
 // queued step takes the next modal widget that appears, records what it
-// showed (title, text, informative text) and answers it. Assert on the
-// records after exec() has returned: a failing check inside the timer would
-// leave the modal loop running.
+// showed (title, text) and answers it. Assert on the records after exec()
+// has returned: a failing check inside the timer would leave the modal loop
+// running.
 class ModalDriver : public QObject
 {
     Q_OBJECT
@@ -27,8 +27,7 @@ public:
     struct Seen {
         QString className;
         QString title;
-        QString text;
-        QString informativeText;
+        QString text; // of a message box
     };
     using Action = std::function<void(QWidget *modal)>;
 

@@ -42,8 +42,6 @@ QStringList placeholders(const QString &text)
     return found;
 }
 
-using LogEntry = sim::SimulatedController::LogEntry;
-
 // A query, a failed setting, an error report, a notice, a hand-over message.
 void fill(SimulatorLogModel *model)
 {
@@ -107,7 +105,6 @@ private slots:
             QVERIFY(window.controller()->messages().isEmpty());
             return;
         }
-        QCOMPARE(window.moduleActions().at(1)->shortcut(), QKeySequence(Qt::Key_F8));
         // The other modules announce themselves only once the module has its receiver up.
         QVERIFY(window.controller()->messages().contains("bodycalibration available"));
         window.close(); // hands the module its last calls and unloads it
@@ -135,7 +132,7 @@ private slots:
         QVERIFY(!controller.messages().contains("reopen"));
         QTRY_VERIFY(controller.messages().contains("reopen"));
         QTEST(driver.seen().value(0).text.section('\n', 0, 0), "shown");
-        const sim::SimulatedController::LogEntry &reply = controller.log().last();
+        const auto &reply = controller.log().last();
         QCOMPARE(reply.receiver + ' ' + reply.sender, "BodyAdministrationModule " + module);
     }
     void parsesOptions_data()
@@ -292,26 +289,6 @@ private slots:
         filter.setShow(LogFilter::Show(show));
         filter.setFilterFixedString(text);
         QTEST(texts(filter), "shown");
-    }
-    void followsTailOnlyAtBottom()
-    {
-        SimulatorLogModel model;
-        LogWindow window(&model);
-        window.resize(400, 200);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        const QScrollBar *bar = window.view()->verticalScrollBar();
-        LogEntry row;
-        for (int i = 0; i < 100; ++i)
-            model.append(row);
-        QTRY_VERIFY(bar->maximum() > 0);
-        QTRY_COMPARE(bar->value(), bar->maximum());
-
-        // Someone reading older rows is not yanked away by new ones.
-        window.view()->scrollToTop();
-        model.append(row);
-        QCoreApplication::processEvents();
-        QCOMPARE(bar->value(), 0);
     }
     // Qt blocks every window but the modal dialog and its transient children;
     // the log window must be one of those.
