@@ -113,10 +113,7 @@ public:
     {
         return widget<QTableWidget>(name);
     }
-    void clickButton(const QString &name) const
-    {
-        QTest::mouseClick(widget<QPushButton>(name), Qt::LeftButton);
-    }
+    void clickButton(const QString &name) const { QTest::mouseClick(widget(name), Qt::LeftButton); }
 
     // A click on the cell's centre, or on its check box where it has one.
     static void click(QTableWidget *table, int row, int column, bool doubleClick = false)
@@ -164,12 +161,9 @@ public:
                     return static_cast<QDialog *>(modal)->reject();
                 events << "? " + box->text()
                         + (box->informativeText().isEmpty() ? "" : "|" + box->informativeText());
-                QAbstractButton *chosen = box->button(QMessageBox::StandardButton(button));
-                if (!chosen)
-                    chosen = box->button(QMessageBox::Yes);
-                if (!chosen)
-                    chosen = box->button(QMessageBox::Ok);
-                chosen->click();
+                for (int b : { button, int(QMessageBox::Yes), int(QMessageBox::Ok) })
+                    if (QAbstractButton *chosen = box->button(QMessageBox::StandardButton(b)))
+                        return chosen->click();
             });
         }
     }

@@ -15,7 +15,9 @@ private slots:
         columns<int, int, int, QString>({ "major", "minor", "patch", "asked" });
         row("0.2: nothing but the filter", 0, 2, 0, QString("f"));
         row("0.3: calibration state", 0, 3, 0, QString("cf"));
+        row("0.15: no description", 0, 15, 0, QString("cf"));
         row("0.16: description", 0, 16, 0, QString("dcf"));
+        row("1.10: no library", 1, 10, 0, QString("dcf"));
         row("1.11: library, activeness, re-calibration", 1, 11, 0, QString("dlacrf"));
         row("1.12: inertial sensor and its hand-eye state", 1, 12, -1, QString("dlacrshf"));
         row("1.24: reference", 1, 24, 0, QString("dlacrshft"));
@@ -27,8 +29,8 @@ private slots:
         // A calibrated reference with everything a controller can tell; the
         // letter names the query.
         const QString b = " standard b02";
-        QMap<QChar, QString> query;
         sim::SimulatedController controller;
+        QStringList queries;
         for (const char *change :
             { "d body desc%1 = \"Room \"ref\"\"", "l body targetlib_name%1 = none",
                 "a body active%1 = yes", "c body calibrated%1 = yes", "r body recalibrated%1 = no",
@@ -36,12 +38,10 @@ private slots:
                 "h inertial sensor_handeye VX IMU 'A1' = none", "f body filter6d_enabled%1 = no",
                 "t tracking reference = standard b02" }) {
             const QString setting = QString(change).mid(2).replace("%1", b);
-            query[change[0]] = setting.section(" = ", 0, 0);
-            controller.setValue(query[change[0]], setting.section(" = ", 1));
+            controller.setValue(setting.section(" = ", 0, 0), setting.section(" = ", 1));
+            if (asked.contains(change[0]))
+                queries << setting.section(" = ", 0, 0);
         }
-        QStringList queries;
-        for (QChar letter : asked)
-            queries << query.value(letter);
         controller.backendVersions().backendVersion
             = { fetch<int>("major"), fetch<int>("minor"), fetch<int>("patch") };
         CommandChannel channel(&controller, &controller.backendVersions());
@@ -60,7 +60,6 @@ private slots:
         columns<QString, QString>({ "state", "text" });
         row("uncalibrated", QString("lrsh"), "not calibrated");
         row("custom, re-calibrated", QString("cr"), "Custom, re-calibrated");
-        row("library", QString("cl"), "Target Library");
         row("sensor without hand-eye", QString("clrs"), "Optical");
     }
     void calibrationText()

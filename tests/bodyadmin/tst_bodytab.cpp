@@ -10,19 +10,16 @@ class TestBodyTab : public QObject
 {
     Q_OBJECT
 
+    using Tab = BodyTypeAdministrationTab;
     static constexpr int Id = 0, Active = 1, Reference = 2, Name = 3, Calibration = 6, Filter = 7,
                          Delete = 8, Reset = 9;
     // A column's data of that role, rows joined by '|'; check states and
-    // flags as numbers.
+    // usability as numbers.
     QString cells(int column, int role = Qt::DisplayRole, int rows = 4) const
     {
         QStringList texts;
-        for (int row = 0; row < rows; ++row) {
-            const QVariant value = f.table()->item(row, column)->data(role);
-            texts << (value.type() == QVariant::String || !value.isValid()
-                    ? value.toString()
-                    : QString::number(value.toInt()));
-        }
+        for (int row = 0; row < rows; ++row)
+            texts << f.table()->item(row, column)->data(role).toString();
         return texts.join('|');
     }
     BodyAdminFixture f;
@@ -92,8 +89,7 @@ private slots:
         const QStringList offReference = L("? After deactivating the reference target,\nall "
                                            "targets will not be tracked.|Continue?");
         add("deactivate", none, 0, Active, L("body active standard b01 no"), "0|2|2");
-        add("refused activation shows the controller's", L("!body active standard b01 no"), 0,
-            Active,
+        add("activation refused, index named", L("!body active standard b01 no"), 0, Active,
             L("body active standard b01 no | ! Error: Unable to set activeness of body standard "
               "b00"),
             "2|2|2");
@@ -101,8 +97,7 @@ private slots:
         add("the reference deactivated on Yes", none, 1, Active,
             offReference + L("body active standard b02 no"), "2|0|2");
         add("set the reference", none, 0, Reference, L("tracking reference standard b01"), "2|0|0");
-        add("refused reference shows the controller's", L("!tracking reference standard b01"), 0,
-            Reference,
+        add("reference refused, index named", L("!tracking reference standard b01"), 0, Reference,
             L("tracking reference standard b01 | ! Error: Unable to set body standard b00 as "
               "reference body"),
             "0|2|0");
@@ -111,8 +106,7 @@ private slots:
         add("clearing refused", L("!tracking reference none"), 1, Reference,
             { " tracking reference none", "! Error: Unable to de-activate the reference body" },
             "0|2|0");
-        add("an inactive body cannot be the reference", L("body active standard b01 = no"), 0,
-            Reference,
+        add("no reference while inactive", L("body active standard b01 = no"), 0, Reference,
             L("? A de-activated body cannot be set as reference.\nPlease activate this body "
               "before."),
             "0|2|0");
@@ -161,9 +155,7 @@ private slots:
             delete1 + L("! Error: Unable to get info preset available") + deleted(1).mid(1));
         add("delete: reference unreadable, deletion goes on", L("!tracking reference"), 1, Delete,
             delete2 + L("! Unable to information of reference body") + deleted(2)
-                + QString("! Error: Unable to info body reference|")
-                      .repeated(5)
-                      .split("|", Qt::SkipEmptyParts));
+                + L(QString("! Error: Unable to info body reference | ").repeated(5)));
         add("delete: an uncalibrated sensor body has no markers to reset",
             L("body inertial_sensor standard b04 = VX IMU 'A5678'"), 3, Delete,
             L("? Delete assignment of sensor VX IMU 'A5678' and \ndelete geometry of Standard "
@@ -243,20 +235,19 @@ private slots:
 
     void rename_data()
     {
-        columns<QStringList, bool, QString, QStringList, QString>(
-            { "setUp", "doubleClick", "typed", "events", "shown" });
+        columns<QStringList, bool, QString, QString, QStringList>(
+            { "setUp", "doubleClick", "typed", "shown", "events" });
         // Neither a double quote nor a backslash can be typed, and at most
         // 100 characters: the allowed ones and 81 x.
         const QString allowed = "a-b_c+d=e.f,g;h:i/j";
         const QString kept = allowed + QString(81, 'x');
-        row("F2", QStringList(), false, "Tool 4", L("body desc standard b04 \"Tool 4\""), "Tool 4");
+        row("F2", QStringList(), false, "Tool 4", "Tool 4", L("body desc standard b04 \"Tool 4\""));
         row("double click, what can be typed", QStringList(), true,
-            allowed + "\"\\" + QString(100, 'x'),
-            QStringList { "body desc standard b04 \"" + kept + '"' }, kept);
-        row("refused rename shows the controller's", L("!body desc standard b04 *"), false, "X",
+            allowed + "\"\\" + QString(100, 'x'), kept,
+            QStringList { "body desc standard b04 \"" + kept + '"' });
+        row("refused rename shows the controller's", L("!body desc standard b04 *"), false, "X", "",
             L("body desc standard b04 \"X\" | ! Error: Unable to set description of body "
-              "standard b04"),
-            "");
+              "standard b04"));
     }
     void rename()
     {
@@ -347,8 +338,7 @@ private slots:
         f.answer();
         BodyAdminFixture::click(f.table(), row, 0);
         const QString moved = f.table()->item(row, Name)->text();
-        QSignalSpy selections(f.tab,
-            QOverload<const QString &, int>::of(&BodyTypeAdministrationTab::selection_changed));
+        QSignalSpy selections(f.tab, QOverload<const QString &, int>::of(&Tab::selection_changed));
         f.clickButton(fetch<QString>("button"));
 
         QCOMPARE(f.events, fetch<QStringList>("events"));
@@ -380,8 +370,7 @@ private slots:
         // A path that reaches the tab anyway changes nothing on the controller
         // and leaves the screen as it was; a click still selects.
         f.table()->item(0, Active)->setCheckState(Qt::Unchecked);
-        QSignalSpy selections(f.tab,
-            QOverload<const QString &, int>::of(&BodyTypeAdministrationTab::selection_changed));
+        QSignalSpy selections(f.tab, QOverload<const QString &, int>::of(&Tab::selection_changed));
         emit f.table()->cellClicked(2, Delete);
         f.widget<QSpinBox>("spinBox_standard_bodies")->setValue(2);
         QCOMPARE(f.events, QStringList());

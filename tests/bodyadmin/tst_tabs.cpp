@@ -1,5 +1,4 @@
 #include "bodyadminfixture.h"
-#include "bodytabfactory.h"
 #include "fingertrackingadministration.h"
 #include "mtadministration.h"
 
@@ -21,6 +20,11 @@ class TestTabs : public QObject
             if (targets->item(row, 0)->text() == id)
                 BodyAdminFixture::click(targets, row, 0);
         }
+    }
+    // What emptying body 1 of that type sends.
+    static QStringList freed(const QString &type)
+    {
+        return L(QString("body number_of_marker %1 b01 0 | body desc %1 b01 \"\"").arg(type));
     }
     BodyAdminFixture f;
 
@@ -69,22 +73,21 @@ private slots:
         // measurement-tool tabs count the tracked standard targets when the
         // search ends; the others announce the count of their last refresh,
         // which no refresh made here.
-        columns<int, QStringList, QString, QStringList, QStringList>(
-            { "key", "setUp", "announced", "locked", "free" });
+        columns<int, QStringList, QStringList, QStringList, QString>(
+            { "key", "setUp", "locked", "free", "announced" });
         const QString two = "2 targets could be identified in library";
         const QString none = "No targets could be identified in library";
         const QStringList standard = L("spinBox_standard_bodies | pushButton_filter | "
                                        "pushButton_customCalibration | comboBox_filter");
-        row("standard", 0, QStringList(), two, standard, L("tableWidget_standard"));
-        row("standard, one", 0, L("targetlib target_bodytype t04 = 'x'"),
-            QString("One target could be identified in library"), standard,
-            L("tableWidget_standard"));
-        row("Gripwand", 1, QStringList(), none, QStringList(),
-            L("spinBox_gripwands | pushButton_filter | pushButton_calibration"));
-        row("hands", 2, QStringList(), none, QStringList(),
-            L("spinBox_fingertracking | pushButton_calibration"));
-        row("measurement tools", 3, QStringList(), two, L("spinBox_mtref | comboBox_filter"),
-            L("spinBox_mt"));
+        row("standard", 0, QStringList(), standard, L("tableWidget_standard"), two);
+        row("standard, one", 0, L("targetlib target_bodytype t04 = 'x'"), standard,
+            L("tableWidget_standard"), QString("One target could be identified in library"));
+        row("Gripwand", 1, QStringList(), QStringList(),
+            L("spinBox_gripwands | pushButton_filter | pushButton_calibration"), none);
+        row("hands", 2, QStringList(), QStringList(),
+            L("spinBox_fingertracking | pushButton_calibration"), none);
+        row("measurement tools", 3, QStringList(), L("spinBox_mtref | comboBox_filter"),
+            L("spinBox_mt"), two);
     }
     // Stopped by the user, started again and run to its end.
     void search()
@@ -156,9 +159,8 @@ private slots:
         QTableWidget *targets = f.table("tableWidget_targetlibrary");
         QCOMPARE(targets->rowCount(), 1);
         QStringList row;
-        for (int column = 0; column < 4; ++column)
-            row << targets->horizontalHeaderItem(column)->text() + "="
-                    + targets->item(0, column)->text();
+        for (int i = 0; i < 4; ++i)
+            row << targets->horizontalHeaderItem(i)->text() + "=" + targets->item(0, i)->text();
         QCOMPARE(row, L("ID=t04 | Name=Tree target, 4 markers | Short Name=TR-4 | Used=custom"));
         combo->setCurrentIndex(1);
         QCOMPARE(targets->item(0, 3)->text(), QString("no"));
@@ -173,8 +175,7 @@ private slots:
         const QString bends = "? %1 can bend\ntherefore a re-calibration is strongly "
                               "recommended!\n\n(To avoid any changes of the geometry\nmount the "
                               "target to the device prior re-calibration)";
-        const QStringList free1
-            = L("body number_of_marker standard b01 0 | body desc standard b01 \"\"");
+        const QStringList free1 = freed("standard");
         const QStringList preset1 = L("body filter6d_preset standard b01 preset6d_default");
         const QString calibrate = "velora2 body calibrate_from_targetlib standard b04 %1";
         const QStringList overwrite = L("? Overwrite body calibration data of Room reference?");
@@ -190,10 +191,7 @@ private slots:
         row("a named body is asked about, Ok", 0, none, 1, "t04", 0,
             overwrite + L("velora2 body calibrate_from_targetlib standard b02 TR-4"));
         row("measurement-tool reference", 0, none, 3, "t05", 0,
-            mr1
-                + L("body number_of_marker measurementtool_reference b01 0 | body desc "
-                    "measurementtool_reference b01 \"\"")
-                + QStringList { calibrate.arg("TR-5") });
+            mr1 + freed("measurementtool_reference") + QStringList { calibrate.arg("TR-5") });
         row("HMD bends", 0, none, 3, "t03", 0,
             QStringList { calibrate.arg("HMD-7"), bends.arg("Head-mounted display frame") });
         row("another letter case does not warn", 0, L("targetlib group_name g02 = \"hmd Target\""),
@@ -216,8 +214,7 @@ private slots:
             std1 + preset1 + free1
                 + L("velora2 body calibrate_from_targetlib measurementtool_reference b02 GL-5"));
         row("Gripwand", 1, none, 1, "t06", 0,
-            L("body number_of_marker gripwand b01 0 | body desc gripwand b01 \"\" | velora2 "
-              "body calibrate_from_targetlib gripwand b02 GW-3"));
+            freed("gripwand") + L("velora2 body calibrate_from_targetlib gripwand b02 GW-3"));
     }
     void assignment()
     {
@@ -290,8 +287,7 @@ private slots:
         QCOMPARE(f.events,
             QStringList({ set.arg(value + 1), "! " + maxUnknown, set.arg(value + 2),
                 QString("! Error: Unable to set number of %1 bodies to %2")
-                    .arg(bodies)
-                    .arg(value + 2),
+                    .arg(bodies, QString::number(value + 2)),
                 "! " + maxUnknown }));
         QCOMPARE(spin->value(), value + 1);
     }
@@ -303,6 +299,8 @@ private slots:
         row("switched back on", off, L("standard filter_bodies yes | gripwand filter yes"));
         row("already on", QStringList(), QStringList());
         row("locked", off + L("config is_changeable = no"), QStringList());
+        row("from 1.12", off + L("@version 1.12"),
+            L("standard filter_bodies yes | gripwand filter yes"));
         row("before 1.12", off + L("@version 1.11"), QStringList());
         row("standard unknown", L("!standard filter_bodies"),
             L("! Error: Unable to get global filter6d status of standard bodies"));
@@ -320,8 +318,9 @@ private slots:
     {
         const QStringList setUp = fetch<QStringList>("setUp");
         f.open(0, setUp);
-        if (setUp.contains("@version 1.11"))
-            f.controller->backendVersions().backendVersion = { 1, 11, 0 };
+        for (const QString &version : setUp.filter("@version 1."))
+            f.controller->backendVersions().backendVersion
+                = { 1, version.section('.', 1).toInt(), 0 };
         f.controller->sendMessage(
             "GlobalEvent", "ConfigurationModule", 1, "ActiveConfigurationChanged");
         QCOMPARE(f.events, fetch<QStringList>("events"));
@@ -437,7 +436,7 @@ private slots:
         QCOMPARE(f.controller->commands().contains(query), asked);
         tab->show();
         tab->update_tab();
-        QCOMPARE(tab->isTypeAvailable(), available);
+        QCOMPARE(tab->findChild<QSpinBox *>()->isEnabled(), available);
         auto *notice = tab->findChild<QLabel *>("label_error");
         QCOMPARE(notice->isVisible(), !available);
         if (!available)
@@ -451,7 +450,6 @@ private slots:
             QString(available ? (hands ? "H1Left hand" : "M1MR1") : ""));
         if (!hands)
             return;
-        QCOMPARE(tab->findChild<QSpinBox *>()->isEnabled(), available);
         // Asked again only while not available; once available, it stays so.
         f.controller->setValue(query, "no");
         f.controller->clearLog();
@@ -467,8 +465,7 @@ private slots:
         const QString question = "? Delete Measurement Tool reference body 01?";
         const QStringList linked { question
             + "\nIf yes, the assignment to the Measurement Tool will be deleted.|Continue?" };
-        const QStringList clear = L("body number_of_marker measurementtool_reference b01 0 | body "
-                                    "desc measurementtool_reference b01 \"\"");
+        const QStringList clear = freed("measurementtool_reference");
         const QStringList unlink = L("measurementtool reference_of_tool b01 none | measurementtool "
                                      "reference_of_tool b02 none");
         const QStringList linkedToM2 = L("measurementtool reference_of_tool b02 = 1");
