@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -12,16 +13,14 @@ int main(int argc, char **argv)
     LLVMFuzzerInitialize(&argc, &argv);
     int inputs = 0;
     for (int i = 1; i < argc; ++i) {
-        const QDir folder(QFile::decodeName(argv[i]));
-        const QStringList files
-            = folder.exists() ? folder.entryList(QDir::Files) : QStringList { folder.path() };
-        for (const QString &file : files) {
-            const QString name = folder.exists() ? folder.filePath(file) : file;
-            QFile input(name);
-            if (!input.open(QIODevice::ReadOnly)) {
-                std::fprintf(stderr, "cannot read %s\n", qPrintable(name));
-                return 1;
-            }
+        const QFileInfo given(QFile::decodeName(argv[i]));
+        const QFileInfoList files = given.isDir()
+            ? QDir(given.filePath()).entryInfoList(QDir::Files)
+            : QFileInfoList { given };
+        for (const QFileInfo &file : files) {
+            QFile input(file.filePath());
+            if (!input.open(QIODevice::ReadOnly))
+                qFatal("cannot read %s", qPrintable(file.filePath()));
             const QByteArray bytes = input.readAll();
             LLVMFuzzerTestOneInput(
                 reinterpret_cast<const uint8_t *>(bytes.constData()), size_t(bytes.size()));

@@ -120,9 +120,6 @@ private slots:
     {
         // button: pushButton_ left off
         columns<QString, int, QString>({ "button", "index", "message" });
-        row("custom calibration, b12", "calibration", 11, "OpenBodyCalDialog standard b12");
-        row("adjustment, bare 12", "body_adjustment", 11,
-            "OpenBodyAdjustmentDialog standard|12|calibrated");
         row("adjustment of an uncalibrated body", "body_adjustment", 3,
             "OpenBodyAdjustmentDialog standard|4|uncalibrated");
         row("hybrid", "hybridCalibration", 2, "OpenHybridBodyCalibration standard|3|Full");

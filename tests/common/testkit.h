@@ -54,13 +54,12 @@ inline QStringList settingsOf(const sim::SimulatedController &controller, int fr
     return sent;
 }
 
-// Loads the built-in scenario at the given controller version.
-inline void useScenario(sim::SimulatedController &controller, int major = 1, int minor = 24,
-    const QString &name = QStringLiteral("default"))
+// A fresh start on the built-in default scenario, controller 1.24.
+inline void useScenario(sim::SimulatedController &controller)
 {
-    if (!controller.loadScenario(QStringLiteral(":/scenarios/%1.scn").arg(name)))
-        qFatal("scenario %s does not load", qPrintable(name));
-    controller.backendVersions().backendVersion = { major, minor, 0 };
+    if (!controller.loadScenario(QStringLiteral(":/scenarios/default.scn")))
+        qFatal("the default scenario does not load");
+    controller.backendVersions().backendVersion = { 1, 24, 0 };
     controller.clearInjections();
     controller.clearLog();
 }
