@@ -96,6 +96,18 @@ private slots:
         const QString announced = fetch<QString>("announced");
         const QStringList locked = fetch<QStringList>("locked");
         f.open(key, fetch<QStringList>("setUp"));
+        // Stopped by the user, the tab is usable again while the result shows.
+        // Answers are queued before the first click: a box nobody expected
+        // then fails the test instead of hanging it.
+        bool usableDuringResult = false;
+        f.driver->answer([&](QWidget *modal) {
+            usableDuringResult = f.enabled("pushButton_start") && !f.enabled("pushButton_stop");
+            for (const QString &name : locked)
+                usableDuringResult = usableDuringResult && f.enabled(name);
+            f.events << "? " + static_cast<QMessageBox *>(modal)->text();
+            static_cast<QDialog *>(modal)->accept();
+        });
+        f.answer();
         f.clickButton("pushButton_start");
         for (const QString &name : locked + L("pushButton_select | pushButton_deselect"))
             QVERIFY2(!f.enabled(name), qPrintable(name));
@@ -110,18 +122,8 @@ private slots:
                 QString("found targets: %1, already calibrated: 1")
                     .arg(announced[0] == '2' ? 2 : 1));
 
-        // Stopped by the user, the tab is usable again while the result shows;
         // GL-5, in use, is found again by the tabs that look for standard
         // targets when the next search starts.
-        bool usableDuringResult = false;
-        f.driver->answer([&](QWidget *modal) {
-            usableDuringResult = f.enabled("pushButton_start") && !f.enabled("pushButton_stop");
-            for (const QString &name : locked)
-                usableDuringResult = usableDuringResult && f.enabled(name);
-            f.events << "? " + static_cast<QMessageBox *>(modal)->text();
-            static_cast<QDialog *>(modal)->accept();
-        });
-        f.answer();
         f.clear();
         f.clickButton("pushButton_stop");
         QVERIFY(usableDuringResult);
