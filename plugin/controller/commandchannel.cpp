@@ -176,6 +176,12 @@ void CommandChannel::sendMessage(
     m_memory->forget();
 }
 
+void CommandChannel::forgetReplies() const
+{
+    if (m_memory)
+        m_memory->forget();
+}
+
 void CommandChannel::registerReceiver(const char *name, MessageReceiver *receiver) const
 {
     if (m_io)

@@ -23,10 +23,11 @@ struct BackendVersions;
 // complete: the channel passes them through "%s", never as a format.
 //
 // Within one burst of GUI work a read that was already answered is answered
-// again from memory (see ReplyMemory); writes and meta commands make it
-// forget. Replies reach callers as the controller wrote them; only where a
-// text leaves the module, in a command or a request to another module, are
-// line breaks made blanks, so that no reply can end a line early.
+// again from memory (see ReplyMemory); writes, meta commands and messages
+// from other modules make it forget. Replies reach callers as the controller
+// wrote them; only where a text leaves the module, in a command or a request
+// to another module, are line breaks made blanks, so that no reply can end a
+// line early.
 class CommandChannel
 {
 public:
@@ -61,6 +62,8 @@ public:
     void sendMessage(const char *receiver, const char *sender, const QString &text) const;
     void registerReceiver(const char *name, MessageReceiver *receiver) const;
     void unregisterReceiver(const char *name, MessageReceiver *receiver) const;
+    // Another module may have changed the controller: reads ask it again.
+    void forgetReplies() const;
 
     // Getters returning the value alone, for callers that only need the
     // neutral value on failure.

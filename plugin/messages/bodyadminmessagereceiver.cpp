@@ -1,7 +1,5 @@
 #include "bodyadminmessagereceiver.h"
 
-#include "commandchannel.h"
-
 #include <cstring>
 
 BodyAdminMessageReceiver::BodyAdminMessageReceiver(QObject *parent)
@@ -12,6 +10,9 @@ BodyAdminMessageReceiver::BodyAdminMessageReceiver(QObject *parent)
 int BodyAdminMessageReceiver::receiveMessage(
     const char * /*receiver*/, const char *sender, const char *text)
 {
+    // The sender may have changed the controller just before, even within
+    // the burst of work that is reading it now.
+    channel.forgetReplies();
     // The first match wins; all comparisons are case-sensitive.
     const char *message = text ? text : "";
     const auto startsWith = [message](const char *prefix) {
@@ -30,18 +31,19 @@ int BodyAdminMessageReceiver::receiveMessage(
     return 0;
 }
 
-void BodyAdminMessageReceiver::subscribe(const CommandChannel &channel)
+void BodyAdminMessageReceiver::subscribe(const CommandChannel &link)
 {
+    channel = link;
     channel.registerReceiver(GlobalEventName, this);
     channel.registerReceiver(ModuleName, this);
     subscribed = true;
 }
 
-void BodyAdminMessageReceiver::unsubscribe(const CommandChannel &channel)
+void BodyAdminMessageReceiver::unsubscribe(const CommandChannel &link)
 {
     if (!subscribed)
         return;
     subscribed = false;
-    channel.unregisterReceiver(ModuleName, this);
-    channel.unregisterReceiver(GlobalEventName, this);
+    link.unregisterReceiver(ModuleName, this);
+    link.unregisterReceiver(GlobalEventName, this);
 }

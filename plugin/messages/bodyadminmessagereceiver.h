@@ -1,11 +1,11 @@
 #ifndef TRACKING_BODYADMINMESSAGERECEIVER_H
 #define TRACKING_BODYADMINMESSAGERECEIVER_H
 
+#include "commandchannel.h"
+
 #include <messagereceiver.h>
 
 #include <QObject>
-
-class CommandChannel;
 
 // Turns the messages of other host modules into Qt signals for the body
 // administration dialog.
@@ -23,8 +23,8 @@ public:
 
     // Subscribes under "GlobalEvent" and "BodyAdministrationModule", and
     // leaves them in the opposite order; leaving twice sends nothing more.
-    void subscribe(const CommandChannel &channel);
-    void unsubscribe(const CommandChannel &channel);
+    void subscribe(const CommandChannel &link);
+    void unsubscribe(const CommandChannel &link);
 
 signals:
     void BodyCalAvailable();
@@ -34,6 +34,8 @@ signals:
 
 private:
     bool subscribed = false;
+    // The channel subscribed with, whose remembered replies a message voids.
+    CommandChannel channel { nullptr, nullptr };
 };
 
 #endif // TRACKING_BODYADMINMESSAGERECEIVER_H

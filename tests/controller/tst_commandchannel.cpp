@@ -1,3 +1,4 @@
+#include "bodyadminmessagereceiver.h"
 #include "commandchannel.h"
 #include "commandtext.h"
 #include "versiongate.h"
@@ -166,6 +167,7 @@ private slots:
         QTest::newRow("the event loop waits") << "wait";
         QTest::newRow("events processed") << "events";
         QTest::newRow("a nested modal loop") << "modal";
+        QTest::newRow("a message from another module") << "message";
     }
     void betweenReads()
     {
@@ -193,6 +195,11 @@ private slots:
             ModalDriver driver;
             driver.pressButton(QMessageBox::Ok);
             QMessageBox::information(nullptr, "VELORA4", "modal");
+        } else if (between == "message") {
+            BodyAdminMessageReceiver receiver;
+            receiver.subscribe(tab);
+            controller.sendMessage("GlobalEvent", "ConfigurationModule", 1, "Changed");
+            receiver.unsubscribe(tab);
         }
         QCOMPARE(tab.stringOf("status active"), between.isEmpty() ? "none" : "cal");
         QCOMPARE(controller.commands().count("status active"), between.isEmpty() ? 1 : 2);
