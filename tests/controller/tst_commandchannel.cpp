@@ -7,7 +7,6 @@
 #include <testkit.h>
 
 #include <limits>
-#include <thread>
 
 // The grammar and the channel are what every dialog relies on for the exact
 // command texts and for reading replies safely.
@@ -203,18 +202,6 @@ private slots:
         }
         QCOMPARE(tab.stringOf("status active"), between.isEmpty() ? "none" : "cal");
         QCOMPARE(controller.commands().count("status active"), between.isEmpty() ? 1 : 2);
-    }
-
-    void withoutEventDispatcher()
-    {
-        // Nothing tells where a burst ends there, so every read goes out.
-        sim::SimulatedController controller;
-        std::thread([&controller] {
-            CommandChannel channel(&controller, &controller.backendVersions());
-            channel.stringOf("status active");
-            channel.stringOf("status active");
-        }).join();
-        QCOMPARE(controller.commands().count("status active"), 2);
     }
 
     void lineBreaksStayInReplies()
