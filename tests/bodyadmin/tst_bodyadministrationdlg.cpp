@@ -145,6 +145,24 @@ private slots:
         QCOMPARE(f.dialog->isVisible(), message.isEmpty());
     }
 
+    void hybridNeedsInertialTracking_data()
+    {
+        columns<QStringList, bool, QString>({ "setUp", "offered", "report" });
+        row("sensor present", QStringList(), true, QString());
+        row("inertial tracking unknown", L("!inertial available"), false,
+            QString("Error: Unable to get info inertial tracking available"));
+        row("sensor unknown", L("!inertial sensor_present*"), false,
+            QString("Error: Unable to get info inertial sensor is present"));
+    }
+    // Body 3 carries a sensor and is fully calibrated.
+    void hybridNeedsInertialTracking()
+    {
+        f.open(0, fetch<QStringList>("setUp"));
+        BodyAdminFixture::click(f.table(), 2, 0);
+        QCOMPARE(f.enabled("pushButton_hybridCalibration"), fetch<bool>("offered"));
+        QCOMPARE(f.controller->reports().value(0), fetch<QString>("report"));
+    }
+
     // The custom calibration is offered once its module has announced itself.
     void reopenRoundTrip()
     {

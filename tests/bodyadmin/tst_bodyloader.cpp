@@ -143,6 +143,9 @@ private slots:
               "body standard b01 | Error: Unable to get calibration state of body standard b01 | "
               "Error: Unable to get recalibrated state of body standard b01 | Error: Unable to get "
               "handeye status of sensor S1 | Error: Unable to info body reference"));
+        loader.load("standard", 1); // no sensor answer for b02
+        QVERIFY(controller.reports().contains(
+            "Error: Unable to get inertial sensor of body standard b02"));
     }
 };
 

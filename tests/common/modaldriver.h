@@ -43,8 +43,6 @@ public:
 
     // What the driven widgets showed, in order.
     const QList<Seen> &seen() const { return m_seen; }
-    // Steps not yet used: normally 0 after the code under test returned.
-    int pending() const { return m_steps.size(); }
     // Closes every modal widget still open (used in cleanup() so that a
     // test that failed early does not hang the next one).
     static void closeAllModals();

@@ -30,15 +30,13 @@ template<typename T = QWidget> T *child(const QObject *parent, const char *name)
     return found;
 }
 
-// A mouse click as the operator makes it, queued: the button may open a
-// modal loop of its own, which must not run inside the caller.
-inline void clickLater(QWidget *widget)
-{
-    QTimer::singleShot(0, widget, [widget] { QTest::mouseClick(widget, Qt::LeftButton); });
-}
+// A mouse click on the named button as the operator makes it, queued: the
+// button may open a modal loop of its own, which must not run inside the
+// caller.
 inline void clickLater(const QObject *parent, const char *name)
 {
-    clickLater(child(parent, name));
+    QWidget *widget = child(parent, name);
+    QTimer::singleShot(0, widget, [widget] { QTest::mouseClick(widget, Qt::LeftButton); });
 }
 
 // What the controller was told to change (settings and meta commands), in
