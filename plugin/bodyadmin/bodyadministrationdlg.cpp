@@ -91,7 +91,7 @@ BodyAdministrationDlg::~BodyAdministrationDlg()
 
 void BodyAdministrationDlg::unsubscribe()
 {
-    receiver->unsubscribe(channel);
+    receiver->unsubscribe();
 }
 
 void BodyAdministrationDlg::update_config_locked()

@@ -39,11 +39,11 @@ void BodyAdminMessageReceiver::subscribe(const CommandChannel &link)
     subscribed = true;
 }
 
-void BodyAdminMessageReceiver::unsubscribe(const CommandChannel &link)
+void BodyAdminMessageReceiver::unsubscribe()
 {
     if (!subscribed)
         return;
     subscribed = false;
-    link.unregisterReceiver(ModuleName, this);
-    link.unregisterReceiver(GlobalEventName, this);
+    channel.unregisterReceiver(ModuleName, this);
+    channel.unregisterReceiver(GlobalEventName, this);
 }

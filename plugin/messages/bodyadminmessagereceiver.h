@@ -22,9 +22,10 @@ public:
     int receiveMessage(const char *receiver, const char *sender, const char *text) override;
 
     // Subscribes under "GlobalEvent" and "BodyAdministrationModule", and
-    // leaves them in the opposite order; leaving twice sends nothing more.
+    // leaves them (through the same channel) in the opposite order; leaving
+    // twice sends nothing more.
     void subscribe(const CommandChannel &link);
-    void unsubscribe(const CommandChannel &link);
+    void unsubscribe();
 
 signals:
     void BodyCalAvailable();
@@ -34,7 +35,8 @@ signals:
 
 private:
     bool subscribed = false;
-    // The channel subscribed with, whose remembered replies a message voids.
+    // The channel subscribed with: it leaves through it, and a message voids
+    // its remembered replies.
     CommandChannel channel { nullptr, nullptr };
 };
 

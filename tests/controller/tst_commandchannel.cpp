@@ -198,7 +198,7 @@ private slots:
             BodyAdminMessageReceiver receiver;
             receiver.subscribe(tab);
             controller.sendMessage("GlobalEvent", "ConfigurationModule", 1, "Changed");
-            receiver.unsubscribe(tab);
+            receiver.unsubscribe();
         }
         QCOMPARE(tab.stringOf("status active"), between.isEmpty() ? "none" : "cal");
         QCOMPARE(controller.commands().count("status active"), between.isEmpty() ? 1 : 2);
