@@ -10,25 +10,6 @@
 
 #include <QKeyEvent>
 
-namespace
-{
-
-QString keywordOfKey(int key)
-{
-    switch (key) {
-    case BodyTabFactory::Gripwand:
-        return QStringLiteral("gripwand");
-    case BodyTabFactory::Fingertracking:
-        return QStringLiteral("fingertracking");
-    case BodyTabFactory::MeasurementTool:
-        return QStringLiteral("measurementtool");
-    default:
-        return QStringLiteral("standard");
-    }
-}
-
-} // namespace
-
 BodyAdministrationDlg::BodyAdministrationDlg(
     IOManager *ioManager, QWidget *parent, BackendVersions *backendVersions)
     : QDialog(parent)
@@ -192,7 +173,7 @@ void BodyAdministrationDlg::onReceiveBodyAdjustmentAvailable()
 void BodyAdministrationDlg::onReceiveReopen()
 {
     if (BodyTypeAdministrationTab *tab = currentTab()) {
-        tab->refreshTargetStatus(keywordOfKey(currentKey));
+        tab->refreshTargetStatus();
         tab->update_tab();
     }
     exec();
@@ -284,7 +265,7 @@ void BodyAdministrationDlg::reject()
     QString active;
     if (channel.getString(QStringLiteral("status active"), &active) == 0
         && !CommandText::isNone(active)) {
-        channel.report(tr("Unable to close dialog during calibration is running"));
+        channel.report(QStringLiteral("Unable to close dialog during calibration is running"));
         return;
     }
     for (BodyTypeAdministrationTab *tab : qAsConst(tabs))

@@ -11,7 +11,7 @@ int BodyLoader::numberOfBodies(const QString &type) const
 {
     int count = 0;
     if (m_channel.getCount(QStringLiteral("body number_of_bodies %1").arg(type), &count) != 0)
-        m_channel.report(tr("Error: Unable to get number of %1 bodies").arg(type));
+        m_channel.report(QStringLiteral("Error: Unable to get number of %1 bodies").arg(type));
     return count;
 }
 
@@ -23,14 +23,16 @@ int BodyLoader::maximum(
         m_channel.report(error.arg(type));
         maximum = fallback;
     }
-    return qBound(0, maximum, CommandText::MaxCount);
+    // A spin box cannot go below none.
+    return qMax(maximum, 0);
 }
 
 QString BodyLoader::typeDescription(const QString &type) const
 {
     QString description;
     if (m_channel.getString(QStringLiteral("body type_desc %1").arg(type), &description) != 0)
-        m_channel.report(tr("Error: Unable to get description of bodytype %1").arg(type));
+        m_channel.report(
+            QStringLiteral("Error: Unable to get description of bodytype %1").arg(type));
     return description;
 }
 
@@ -39,7 +41,8 @@ bool BodyLoader::filterAvailable(const QString &type) const
     QString reply;
     if (m_channel.getString(QStringLiteral("filter6d available %1").arg(type), &reply) != 0)
         m_channel.report(
-            tr("Error: Unable to get availability of filter6d for bodytype %1").arg(type));
+            QStringLiteral("Error: Unable to get availability of filter6d for bodytype %1")
+                .arg(type));
     return CommandText::isYes(reply);
 }
 
@@ -62,24 +65,26 @@ BodyRecord BodyLoader::load(const QString &type, int index) const
     QString reply;
 
     if (m_channel.atLeast(0, 16)
-        && read("desc", tr("Error: Unable to get description of body %1 b%2 "), &reply))
+        && read("desc", QStringLiteral("Error: Unable to get description of body %1 b%2 "), &reply))
         body.description = CommandText::withoutDoubleQuotes(reply);
     if (m_channel.atLeast(1, 11)
-        && read("targetlib_name", tr("Error: Unable to get targetlib name of body %1 b%2"), &reply))
+        && read("targetlib_name",
+            QStringLiteral("Error: Unable to get targetlib name of body %1 b%2"), &reply))
         body.targetLibraryName = CommandText::noneToEmpty(reply);
     if (m_channel.atLeast(1, 11)
-        && read("active", tr("Error: Unable to get activeness of body %1 b%2"), &reply))
+        && read("active", QStringLiteral("Error: Unable to get activeness of body %1 b%2"), &reply))
         body.active = CommandText::isYes(reply);
     if (m_channel.atLeast(0, 3)
-        && read("calibrated", tr("Error: Unable to get calibration state of body %1 b%2"), &reply))
+        && read("calibrated",
+            QStringLiteral("Error: Unable to get calibration state of body %1 b%2"), &reply))
         body.calibrated = CommandText::isYes(reply);
     if (m_channel.atLeast(1, 11)
-        && read(
-            "recalibrated", tr("Error: Unable to get recalibrated state of body %1 b%2"), &reply))
+        && read("recalibrated",
+            QStringLiteral("Error: Unable to get recalibrated state of body %1 b%2"), &reply))
         body.recalibrated = CommandText::isYes(reply);
     if (m_channel.atLeast(1, 12)
-        && read(
-            "inertial_sensor", tr("Error: Unable to get inertial sensor of body %1 b%2"), &reply)) {
+        && read("inertial_sensor",
+            QStringLiteral("Error: Unable to get inertial sensor of body %1 b%2"), &reply)) {
         body.inertialSensor = CommandText::noneToEmpty(reply);
         if (body.hasInertialSensor()) {
             QString handEye;
@@ -88,14 +93,17 @@ BodyRecord BodyLoader::load(const QString &type, int index) const
                 == 0)
                 body.hybridCalibrated = !CommandText::isNone(handEye);
             else
-                m_channel.report(tr("Error: Unable to get handeye status of sensor %1")
+                m_channel.report(QStringLiteral("Error: Unable to get handeye status of sensor %1")
                                      .arg(body.inertialSensor));
         }
     }
     body.calibrationText = calibrationText(body);
     body.filterText = filterText(type, index);
-    if (m_channel.atLeast(1, 24))
-        body.isReference = type == QLatin1String("standard") && referenceNumber() == index + 1;
+    // Asked for every body; only a standard body can be the one it names.
+    if (m_channel.atLeast(1, 24)) {
+        const int reference = referenceNumber();
+        body.isReference = type == QLatin1String("standard") && reference == index + 1;
+    }
     return body;
 }
 
@@ -159,7 +167,7 @@ int BodyLoader::referenceNumber() const
 {
     QString reply;
     if (m_channel.getString(QStringLiteral("tracking reference"), &reply) != 0) {
-        m_channel.report(tr("Error: Unable to info body reference"));
+        m_channel.report(QStringLiteral("Error: Unable to info body reference"));
         return 0;
     }
     if (CommandText::isNone(reply))

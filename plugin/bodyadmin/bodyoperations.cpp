@@ -57,7 +57,7 @@ void BodyOperations::setActive(
             bodyCommand("active", type, index) + QLatin1Char(' ') + CommandText::yesNo(active))
         != 0)
         // The report names the index, not the number: the log readers expect it so.
-        m_channel.report(tr("Error: Unable to set activeness of body %1 b%2")
+        m_channel.report(QStringLiteral("Error: Unable to set activeness of body %1 b%2")
                              .arg(type, CommandText::twoDigits(index)));
 }
 
@@ -72,7 +72,7 @@ void BodyOperations::setDescription(
     if (m_channel.setParameter(
             bodyCommand("desc", type, index) + QLatin1Char(' ') + CommandText::quoted(text))
         != 0)
-        m_channel.report(tr("Error: Unable to set description of body %1 b%2")
+        m_channel.report(QStringLiteral("Error: Unable to set description of body %1 b%2")
                              .arg(type, CommandText::twoDigits(index + 1)));
 }
 
@@ -97,7 +97,7 @@ bool BodyOperations::setReference(
             && m_channel.setParameter(QStringLiteral("tracking reference %1 %2")
                                           .arg(type, CommandText::bodyIdOfIndex(index)))
                 != 0)
-            m_channel.report(tr("Error: Unable to set body %1 b%2 as reference body")
+            m_channel.report(QStringLiteral("Error: Unable to set body %1 b%2 as reference body")
                                  .arg(type, CommandText::twoDigits(index)));
         return true;
     }
@@ -105,7 +105,7 @@ bool BodyOperations::setReference(
     entry.bodies[index].isReference = false;
     QString reference;
     if (m_channel.getString(QStringLiteral("tracking reference"), &reference) != 0) {
-        m_channel.report(tr("Unable to information of reference body"));
+        m_channel.report(QStringLiteral("Unable to information of reference body"));
         return true;
     }
     const bool stillMarked = std::any_of(entry.bodies.cbegin(), entry.bodies.cend(),
@@ -113,7 +113,7 @@ bool BodyOperations::setReference(
     // The leading blank is what the controller has always been sent here.
     if (!CommandText::isNone(reference) && !stillMarked
         && m_channel.setParameter(QStringLiteral(" tracking reference none")) != 0)
-        m_channel.report(tr("Error: Unable to de-activate the reference body"));
+        m_channel.report(QStringLiteral("Error: Unable to de-activate the reference body"));
     return true;
 }
 
@@ -140,7 +140,7 @@ bool BodyOperations::resetToTargetLibrary(
             QStringLiteral("velora2 body calibrate_from_targetlib %1 %2 %3")
                 .arg(type, CommandText::bodyIdOfIndex(index), body.targetLibraryName))
         != 0) {
-        m_channel.report(tr("Error: Unable to reset body from target library"));
+        m_channel.report(QStringLiteral("Error: Unable to reset body from target library"));
         warn(named(tr("Reset of %1 %2 failed!"), entry, index));
         return false;
     }
@@ -156,7 +156,7 @@ bool BodyOperations::resetSensor(const BodyTypeEntry &entry, int index) const
         && m_channel.getBool(
                QStringLiteral("inertial sensor_has_storage %1").arg(sensor), &hasStorage)
             != 0)
-        m_channel.report(tr("Unable to get storage info from sensor"));
+        m_channel.report(QStringLiteral("Unable to get storage info from sensor"));
 
     QString handEye = CommandText::none();
     if (hasStorage) {
@@ -165,7 +165,8 @@ bool BodyOperations::resetSensor(const BodyTypeEntry &entry, int index) const
     } else {
         if (m_channel.getString(QStringLiteral("inertial sensor_handeye %1").arg(sensor), &handEye)
             != 0) {
-            m_channel.report(tr("Unable to get info about hand eye calibration from sensor"));
+            m_channel.report(
+                QStringLiteral("Unable to get info about hand eye calibration from sensor"));
             handEye = CommandText::none();
         }
         const QString question = CommandText::isNone(handEye)
@@ -179,12 +180,12 @@ bool BodyOperations::resetSensor(const BodyTypeEntry &entry, int index) const
     bool restartWarmup = false;
     QString warmup;
     if (m_channel.getString(QStringLiteral("inertial warmup"), &warmup) != 0)
-        m_channel.report(tr("Could not get warmup status"));
+        m_channel.report(QStringLiteral("Could not get warmup status"));
     if (CommandText::isYes(warmup)) {
         if (m_channel.setParameter(QStringLiteral("inertial warmup no")) == 0)
             restartWarmup = true;
         else
-            m_channel.report(tr("Could not stop warmup of sensors"));
+            m_channel.report(QStringLiteral("Could not stop warmup of sensors"));
     }
 
     bool failed = false;
@@ -197,14 +198,14 @@ bool BodyOperations::resetSensor(const BodyTypeEntry &entry, int index) const
             = m_channel.setParameter(QStringLiteral("inertial sensor_handeye %1 none").arg(sensor))
             != 0;
         if (failed)
-            m_channel.report(tr("Unable to reset sensor hand eye calibration"));
+            m_channel.report(QStringLiteral("Unable to reset sensor hand eye calibration"));
     }
 
     if (restartWarmup && m_channel.setParameter(QStringLiteral("inertial warmup yes")) != 0)
-        m_channel.report(tr("Could not start warmup of sensors"));
+        m_channel.report(QStringLiteral("Could not start warmup of sensors"));
 
     if (failed) {
-        m_channel.report(tr("Error: Unable to reset body to sensor stored values"));
+        m_channel.report(QStringLiteral("Error: Unable to reset body to sensor stored values"));
         warn(named(tr("Reset of %1 %2 failed!"), entry, index));
         return false;
     }
@@ -240,10 +241,10 @@ bool BodyOperations::remove(const BodyTypeEntry &entry, const QString &type, int
     if (reference) {
         QString current;
         if (m_channel.getString(QStringLiteral("tracking reference"), &current) != 0)
-            m_channel.report(tr("Unable to information of reference body"));
+            m_channel.report(QStringLiteral("Unable to information of reference body"));
         else if (!CommandText::isNone(current)
             && m_channel.setParameter(QStringLiteral("tracking reference none")) != 0)
-            m_channel.report(tr("Unable to reset reference body"));
+            m_channel.report(QStringLiteral("Unable to reset reference body"));
     }
 
     if (m_channel.atLeast(1, 12) && entry.filterAvailable) {
@@ -254,31 +255,31 @@ bool BodyOperations::remove(const BodyTypeEntry &entry, const QString &type, int
                        + QLatin1Char(' ') + DefaultPreset,
                    &available)
                 != 0) {
-            m_channel.report(tr("Error: Unable to get info preset available"));
+            m_channel.report(QStringLiteral("Error: Unable to get info preset available"));
             asked = false;
         }
         if (asked && available
             && m_channel.setParameter(
                    bodyCommand("filter6d_preset", type, index) + QLatin1Char(' ') + DefaultPreset)
                 != 0)
-            return fail(tr("Unable to reset filter6d of %1 %2"));
+            return fail(QStringLiteral("Unable to reset filter6d of %1 %2"));
     }
 
     if (m_channel.atLeast(1, 12) && body.hasInertialSensor()
         && m_channel.setParameter(
                bodyCommand("inertial_sensor", type, index) + QLatin1String(" none"))
             != 0)
-        return fail(tr("Unable to reset sensor of %1 %2"));
+        return fail(QStringLiteral("Unable to reset sensor of %1 %2"));
 
     if (body.calibrated) {
         if (m_channel.setParameter(
                 bodyCommand("number_of_marker", type, index) + QLatin1String(" 0"))
             != 0)
-            return fail(tr("Unable to reset markers of %1 %2"));
+            return fail(QStringLiteral("Unable to reset markers of %1 %2"));
         if (m_channel.setParameter(bodyCommand("desc", type, index) + QLatin1Char(' ')
                 + CommandText::quoted(QString()))
             != 0)
-            return fail(tr("Unable to reset description of %1 %2"));
+            return fail(QStringLiteral("Unable to reset description of %1 %2"));
     }
     return true;
 }
@@ -293,7 +294,7 @@ bool BodyOperations::switchBodies(
                 .arg(type, CommandText::bodyIdOfIndex(indexA), CommandText::bodyIdOfIndex(indexB)))
         == 0)
         return true;
-    m_channel.report(tr("Error: Unable to switch bodies"));
+    m_channel.report(QStringLiteral("Error: Unable to switch bodies"));
     warn(tr("Switching %1 %2 and %3 failed!")
              .arg(entry.typeDescription, QString::number(indexA + 1), QString::number(indexB + 1)));
     return false;
@@ -312,7 +313,7 @@ bool BodyOperations::calibrateFromTarget(const BodyTypeEntry &entry, const QStri
             continue;
         QString name;
         if (m_channel.getString(bodyCommand("targetlib_name", type, i), &name) != 0) {
-            m_channel.report(tr("Unable to get info targetlib ID of body"));
+            m_channel.report(QStringLiteral("Unable to get info targetlib ID of body"));
             continue;
         }
         if (name != targetName)
@@ -320,20 +321,21 @@ bool BodyOperations::calibrateFromTarget(const BodyTypeEntry &entry, const QStri
         affected->append(i);
         if (m_channel.setParameter(bodyCommand("number_of_marker", type, i) + QLatin1String(" 0"))
             != 0)
-            m_channel.report(
-                tr("Unable to reset markers of target %1 %2").arg(type, QString::number(i + 1)));
+            m_channel.report(QStringLiteral("Unable to reset markers of target %1 %2")
+                                 .arg(type, QString::number(i + 1)));
         if (m_channel.setParameter(
                 bodyCommand("desc", type, i) + QLatin1Char(' ') + CommandText::quoted(QString()))
             != 0)
             // Names the type twice; the log's readers know it so.
-            m_channel.report(tr("Unable to reset description of target %1 %1").arg(type));
+            m_channel.report(
+                QStringLiteral("Unable to reset description of target %1 %1").arg(type));
     }
 
     if (m_channel.sendMetaCommand(QStringLiteral("velora2 body calibrate_from_targetlib %1 %2 %3")
                                       .arg(type, CommandText::bodyIdOfIndex(index), targetName))
         == 0)
         return true;
-    m_channel.report(tr("Error: Unable to calibrate body from target library"));
+    m_channel.report(QStringLiteral("Error: Unable to calibrate body from target library"));
     return false;
 }
 

@@ -9,21 +9,18 @@
 #include <QSpinBox>
 #include <QTableWidget>
 
-// "inertial available" and "inertial warmup" are asked at most once per
-// table refresh, and only when a row needs them.
 namespace
 {
 
-// The column that takes the room left; set by stretchColumn.
+// The column that stretches once the tab has laid the table out; without it
+// the last section stretches, as the table was set up.
 const char *const StretchColumn = "trackingStretchColumn";
-// A stretched column squeezed below its contents would show "B…": it keeps
-// the width of this many characters at least, and the table scrolls.
-constexpr int StretchMinimumCharacters = 30;
 
 } // namespace
 
+// What decides whether a body's inertial sensor can be reset; asked once for
+// each fill of a table.
 struct BodyTableFiller::InertialState {
-    bool asked = false;
     bool available = false;
     bool warmingUp = false;
 };
@@ -54,11 +51,13 @@ void BodyTableFiller::fill(const BodyTypeEntry &entry, const ExtraColumnFiller &
     QTableWidget *table = entry.table;
     if (!table)
         return;
-    // Filling is not editing: no itemChanged may reach the controller.
+    // Filling is not editing: no itemChanged may reach the controller. The
+    // columns are measured once, after the last cell, not for every cell.
     const QSignalBlocker blocker(table);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->setColumnCount(entry.columnRoles.size());
     table->setRowCount(entry.bodies.size());
-    InertialState inertial;
+    const InertialState inertial = inertialState();
     for (int row = 0; row < entry.bodies.size(); ++row) {
         for (int column = 0; column < entry.columnRoles.size(); ++column) {
             const int role = entry.columnRoles.at(column);
@@ -68,11 +67,11 @@ void BodyTableFiller::fill(const BodyTypeEntry &entry, const ExtraColumnFiller &
             table->setItem(row, column, item);
         }
     }
-    fitColumns(table);
+    applyHeaderModes(table);
 }
 
 QTableWidgetItem *BodyTableFiller::cell(
-    const BodyTypeEntry &entry, int index, int role, InertialState &inertial) const
+    const BodyTypeEntry &entry, int index, int role, const InertialState &inertial) const
 {
     const BodyRecord &body = entry.bodies.at(index);
     auto *item = new QTableWidgetItem;
@@ -129,20 +128,22 @@ QTableWidgetItem *BodyTableFiller::cell(
     return item;
 }
 
-bool BodyTableFiller::sensorResetUsable(const BodyRecord &body, InertialState &inertial) const
+BodyTableFiller::InertialState BodyTableFiller::inertialState() const
 {
-    if (!body.hasInertialSensor() || !m_channel.atLeast(1, 12))
-        return false;
-    if (!inertial.asked) {
-        inertial.asked = true;
-        QString reply;
-        if (m_channel.getString(QStringLiteral("inertial available"), &reply) != 0)
-            m_channel.report(tr("Error: Unable to get info inertial tracking available"));
-        inertial.available = CommandText::isYes(reply);
-        inertial.warmingUp
-            = CommandText::isYes(m_channel.stringOf(QStringLiteral("inertial warmup")));
-    }
-    return inertial.available && !inertial.warmingUp;
+    InertialState inertial;
+    if (!m_channel.atLeast(1, 12))
+        return inertial;
+    QString reply;
+    if (m_channel.getString(QStringLiteral("inertial available"), &reply) != 0)
+        m_channel.report(QStringLiteral("Error: Unable to get info inertial tracking available"));
+    inertial.available = CommandText::isYes(reply);
+    inertial.warmingUp = CommandText::isYes(m_channel.stringOf(QStringLiteral("inertial warmup")));
+    return inertial;
+}
+
+bool BodyTableFiller::sensorResetUsable(const BodyRecord &body, const InertialState &inertial)
+{
+    return body.hasInertialSensor() && inertial.available && !inertial.warmingUp;
 }
 
 void BodyTableFiller::setUp(QTableWidget *table, const QStringList &headers)
@@ -160,47 +161,24 @@ void BodyTableFiller::setUp(QTableWidget *table, const QStringList &headers)
 
 void BodyTableFiller::stretchColumn(QTableWidget *table, int column)
 {
-    // Columns sized by the header itself would be measured again over all
-    // rows for every cell a fill sets; they are sized once per fill instead.
-    QHeaderView *header = table->horizontalHeader();
-    header->setStretchLastSection(false);
-    for (int c = 0; c < header->count(); ++c) {
-        if (c != column)
-            header->setSectionResizeMode(c, QHeaderView::Fixed);
-    }
     table->setProperty(StretchColumn, column);
-    fitColumns(table);
+    applyHeaderModes(table);
 }
 
-void BodyTableFiller::fitColumns(QTableWidget *table)
+void BodyTableFiller::applyHeaderModes(QTableWidget *table)
 {
+    QHeaderView *header = table->horizontalHeader();
     bool stretching = false;
     const int stretch = table->property(StretchColumn).toInt(&stretching);
-    if (!stretching)
+    if (!stretching) {
+        header->setSectionResizeMode(QHeaderView::Interactive);
+        header->setStretchLastSection(true);
         return;
-    QHeaderView *header = table->horizontalHeader();
-    // The table's own measure of a column (protected in QTableView only).
-    const QAbstractItemView *view = table;
-    const auto contentWidth = [view, header](int column) {
-        return qMax(header->sectionSizeHint(column), view->sizeHintForColumn(column));
-    };
-    int others = 0;
-    for (int c = 0; c < header->count(); ++c) {
-        if (c == stretch || header->isSectionHidden(c))
-            continue;
-        header->resizeSection(c, contentWidth(c));
-        others += header->sectionSize(c);
     }
-    if (stretch >= header->count())
-        return;
-    const int minimum = qMin(
-        contentWidth(stretch), table->fontMetrics().averageCharWidth() * StretchMinimumCharacters);
-    if (table->viewport()->width() - others >= minimum) {
-        header->setSectionResizeMode(stretch, QHeaderView::Stretch);
-    } else {
-        header->setSectionResizeMode(stretch, QHeaderView::Interactive);
-        header->resizeSection(stretch, minimum);
-    }
+    header->setStretchLastSection(false);
+    for (int c = 0; c < header->count(); ++c)
+        header->setSectionResizeMode(
+            c, c == stretch ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
 }
 
 void BodyTableFiller::showMaximumReached(

@@ -32,11 +32,12 @@ public:
     // Header not clickable, no vertical header, single whole rows; names are
     // edited on a double click only.
     static void setUp(QTableWidget *table, const QStringList &headers);
-    // The column stretches over the room the others leave; every other
-    // column fits its contents. Called again when the table's width changes.
+    // From now on the column stretches over the room the others leave and
+    // every other column resizes to its contents; the last section no longer
+    // stretches.
     static void stretchColumn(QTableWidget *table, int column);
-    // Sizes the columns to the table's contents, once for all rows.
-    static void fitColumns(QTableWidget *table);
+    // The table's header modes again, after a fill.
+    static void applyHeaderModes(QTableWidget *table);
     // The red line under a spin box at its maximum.
     static void showMaximumReached(QLabel *label, const QSpinBox *spinBox, const QString &text);
 
@@ -46,8 +47,9 @@ public:
 private:
     struct InertialState;
     QTableWidgetItem *cell(
-        const BodyTypeEntry &entry, int index, int role, InertialState &inertial) const;
-    bool sensorResetUsable(const BodyRecord &body, InertialState &inertial) const;
+        const BodyTypeEntry &entry, int index, int role, const InertialState &inertial) const;
+    InertialState inertialState() const;
+    static bool sensorResetUsable(const BodyRecord &body, const InertialState &inertial);
 
     const CommandChannel &m_channel;
     QIcon m_green;

@@ -160,29 +160,22 @@ bool BodyTypeAdministrationTab::canHybridCalibrateSelected() const
         return false;
     QString reply;
     if (channel.getString(QStringLiteral("inertial available"), &reply) != 0)
-        channel.report(tr("Error: Unable to get info inertial tracking available"));
+        channel.report(QStringLiteral("Error: Unable to get info inertial tracking available"));
     if (!CommandText::isYes(reply))
         return false;
     if (channel.getString(
             QStringLiteral("inertial sensor_present %1").arg(body->inertialSensor), &reply)
         != 0)
-        channel.report(tr("Error: Unable to get info inertial sensor is present"));
+        channel.report(QStringLiteral("Error: Unable to get info inertial sensor is present"));
     return CommandText::isYes(reply);
 }
 
 void BodyTypeAdministrationTab::setLocked(bool locked)
 {
-    if (this->locked == locked)
-        return;
+    // Only the flag: every edit path asks it, and the controls follow at the
+    // next refresh. A lock that arrives during a search must not take the
+    // Stop button from the operator.
     this->locked = locked;
-    // A lock that comes while the tab is shown closes its controls at once;
-    // an unlock reads the new configuration.
-    if (locked) {
-        enableChildren();
-        updateView();
-    } else if (isVisible()) {
-        update_tab();
-    }
 }
 
 void BodyTypeAdministrationTab::enableChildren()
@@ -267,7 +260,10 @@ void BodyTypeAdministrationTab::changeNumberOfBodies(const QString &type, int co
     if (count == cached)
         return;
     if (locked) {
-        refreshSpinBox(type, true);
+        // Back to the cached count without asking anything.
+        const QSignalBlocker blocker(e->numberSpinBox);
+        if (e->numberSpinBox)
+            e->numberSpinBox->setValue(cached);
         return;
     }
     // Only the last body is looked at: the controller moves the reference
@@ -285,15 +281,6 @@ void BodyTypeAdministrationTab::changeNumberOfBodies(const QString &type, int co
 
     e->bodies.resize(count);
     setNumberOfBodies(type, count);
-    // A count the controller refused does not stay on screen.
-    int held = count;
-    if (channel.getCount(QStringLiteral("body number_of_bodies %1").arg(type), &held) == 0
-        && held != count) {
-        reloadBodies(type);
-        updateView();
-        emit selection_changed(selectedType, selectedIndex);
-        return;
-    }
     if (cached < count) {
         refreshSpinBox(type, false);
         for (int i = cached; i < count; ++i)
@@ -313,63 +300,35 @@ void BodyTypeAdministrationTab::ON_spinBox_valueChanged(int num)
 
 // Table slots.
 
-// The table's own check boxes and the name editor change an item: a click on
-// a check box, Space on a check cell, and F2, a double click or typing in
-// the name cell all arrive here, filling never does (its signals are
-// blocked).
+// The name editor changes an item (F2, a double click or typing); filling
+// never does, its signals are blocked. The check boxes act through the click.
 void BodyTypeAdministrationTab::ON_tableWidget_itemChanged(QTableWidgetItem *item)
 {
     const QString type = typeOf(sender());
-    if (item && entry(type))
-        applyCellChange(type, item);
-}
-
-void BodyTypeAdministrationTab::applyCellChange(const QString &type, const QTableWidgetItem *item)
-{
     const BodyTypeEntry *e = entry(type);
-    const int row = item->row();
-    const int role = e->columnRoles.value(item->column());
-    if (!e->contains(row)
-        || (role != NameColumn && role != ActiveColumn && role != ReferenceColumn))
+    if (!item || !e || !e->contains(item->row())
+        || e->columnRoles.value(item->column()) != NameColumn)
         return;
     if (locked) {
         refreshTable(type);
         return;
     }
-    if (role == NameColumn) {
-        setBodyDescription(type, row, item->text());
-    } else {
-        const bool checked = item->checkState() == Qt::Checked;
-        if (role == ActiveColumn)
-            setBodyActive(type, row, checked);
-        else
-            setReferenceBody(type, row, checked);
-    }
-    readBack(type, row);
+    setBodyDescription(type, item->row(), item->text());
     updateView();
-}
-
-void BodyTypeAdministrationTab::readBack(const QString &type, int row)
-{
-    BodyTypeEntry *e = entry(type);
-    if (!e)
-        return;
-    loadBody(type, row);
-    // The reference is one of the type's bodies: the others may have lost it.
-    if (type == Standard && channel.atLeast(1, 24)) {
-        const int reference = loader.referenceNumber();
-        for (int i = 0; i < e->bodies.size(); ++i)
-            e->bodies[i].isReference = reference == i + 1;
-    }
-    refreshTable(type);
 }
 
 void BodyTypeAdministrationTab::ON_tableWidget_cellClicked(int iRow, int iCol)
 {
-    auto *table = qobject_cast<QTableWidget *>(sender());
+    clickCell(qobject_cast<QTableWidget *>(sender()), iRow, iCol);
+}
+
+// A click anywhere in a cell, on its check box or beside it, runs the
+// column's action with the state the cell shows now.
+void BodyTypeAdministrationTab::clickCell(QTableWidget *table, int row, int column)
+{
     if (!table || !table->isVisible())
         return;
-    QTableWidgetItem *item = table->item(iRow, iCol);
+    QTableWidgetItem *item = table->item(row, column);
     if (!item)
         return;
     table->setCurrentItem(item);
@@ -377,10 +336,8 @@ void BodyTypeAdministrationTab::ON_tableWidget_cellClicked(int iRow, int iCol)
     const BodyTypeEntry *e = entry(type);
     if (!e)
         return;
-    // Locked, the click only selects; the check boxes toggled themselves
-    // before the click arrived and are handled as a change of the item.
-    if (!locked && e->contains(iRow))
-        actOnCell(type, iRow, e->columnRoles.value(iCol), item);
+    if (!locked && e->contains(row))
+        actOnCell(type, row, e->columnRoles.value(column), item);
     emit selection_changed(selectedType, selectedIndex);
     storeSelection();
 }
@@ -390,7 +347,14 @@ void BodyTypeAdministrationTab::actOnCell(
 {
     BodyTypeEntry *e = entry(type);
     const bool usable = item && item->data(BodyTableFiller::UsableRole).toInt() == 1;
+    const bool checked = item && item->checkState() == Qt::Checked;
     switch (role) {
+    case ActiveColumn:
+        setBodyActive(type, row, checked);
+        break;
+    case ReferenceColumn:
+        setReferenceBody(type, row, checked);
+        break;
     case FilterColumn:
         if (e->filterAvailable && e->bodies.at(row).calibrated) {
             toggleFilter(type, row);
@@ -433,6 +397,8 @@ bool BodyTypeAdministrationTab::eventFilter(QObject *watched, QEvent *event)
     const int key = static_cast<QKeyEvent *>(event)->key();
     const int row = table->currentRow();
     const BodyTypeEntry *e = entry(type);
+    if (key == Qt::Key_Space && pressCheckCell(table, *e))
+        return true;
     if ((key != Qt::Key_F2 && key != Qt::Key_Delete) || !e->contains(row))
         return QWidget::eventFilter(watched, event);
     if (!locked) {
@@ -445,6 +411,22 @@ bool BodyTypeAdministrationTab::eventFilter(QObject *watched, QEvent *event)
             storeSelection();
         }
     }
+    return true;
+}
+
+// Space on a check cell does what a click on its box does: the box toggles
+// and the column's action runs once.
+bool BodyTypeAdministrationTab::pressCheckCell(QTableWidget *table, const BodyTypeEntry &e)
+{
+    const int role = e.columnRoles.value(table->currentColumn());
+    QTableWidgetItem *item = table->currentItem();
+    if (!item || (role != ActiveColumn && role != ReferenceColumn))
+        return false;
+    if (!locked && (item->flags() & Qt::ItemIsUserCheckable)) {
+        const QSignalBlocker blocker(table);
+        item->setCheckState(item->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+    }
+    clickCell(table, item->row(), item->column());
     return true;
 }
 
@@ -569,7 +551,7 @@ void BodyTypeAdministrationTab::deleteFromTable(const QString &type, int index)
                               .arg(type, CommandText::bodyIdOfIndex(index)),
             &name)
         != 0)
-        channel.report(tr("Unable to get info targetlib ID of body"));
+        channel.report(QStringLiteral("Unable to get info targetlib ID of body"));
     name = CommandText::noneToEmpty(name);
     deleteBody(type, index);
     if (!name.isEmpty() && targetLibrary)
@@ -752,10 +734,11 @@ void BodyTypeAdministrationTab::removeTarget(int bodyRow)
         deleteFromTable(type, bodyRow);
 }
 
-void BodyTypeAdministrationTab::refreshTargetStatus(const QString &type)
+void BodyTypeAdministrationTab::refreshTargetStatus()
 {
-    targetStatus.refreshCalibratedOfGroup(type, QString());
     const TargetSearch::Widgets &w = targetSearch->widgets();
+    if (w.targetTable)
+        targetStatus.refreshCalibratedOfRows(w.targetTable);
     fillTargetTable(w.categoryCombo ? w.categoryCombo->currentText() : QString());
 }
 

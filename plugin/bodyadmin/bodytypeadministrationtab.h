@@ -64,9 +64,9 @@ public:
     // The tab's own buttons follow the current rows: Select and Deselect
     // while no search runs, and where a tab has one, its Filter button.
     virtual void applySelectionRules();
-    // Reads the used state of the type's library targets again and refills
+    // Reads the used state of the listed library targets again and refills
     // the target table, after another module may have calibrated a body.
-    void refreshTargetStatus(const QString &type);
+    void refreshTargetStatus();
     int foundTargetCount() const { return targetSearch->foundTargets(); }
 
 public slots:
@@ -177,12 +177,10 @@ protected:
 
 private:
     void deleteFromTable(const QString &type, int index);
-    // What a click on a cell of the delete, reset or filter column does.
+    // What a click on a cell does, by the role of its column.
     void actOnCell(const QString &type, int row, int role, const QTableWidgetItem *item);
-    // A check box or name the user changed in the table.
-    void applyCellChange(const QString &type, const QTableWidgetItem *item);
-    // After an edit from the table: the row shows what the controller holds.
-    void readBack(const QString &type, int row);
+    void clickCell(QTableWidget *table, int row, int column);
+    bool pressCheckCell(QTableWidget *table, const BodyTypeEntry &e);
     void enableChildren();
     void toggleFilter(const QString &type, int index);
     const BodyRecord *selectedBody() const;

@@ -88,14 +88,14 @@ int FingertrackingAdministration::maxNumberOfBodies(const QString &btype)
     if (btype != Fingertracking)
         return DefaultMaximum;
     return loader.maximum(QStringLiteral("fingertracking max_number_of_hands"), btype,
-        DefaultMaximum, tr("Error: Unable to get max number of %1 hand bodies"));
+        DefaultMaximum, QStringLiteral("Error: Unable to get max number of %1 hand bodies"));
 }
 
 void FingertrackingAdministration::setNumberOfBodies(const QString &btype, int count)
 {
     if (btype == Fingertracking)
         operations.setNumberOfBodies(QStringLiteral("fingertracking number_of_hands %1"), btype,
-            count, tr("Error: Unable to set number of %1 hand bodies to %2"));
+            count, QStringLiteral("Error: Unable to set number of %1 hand bodies to %2"));
 }
 
 void FingertrackingAdministration::resizeEvent(QResizeEvent *event)

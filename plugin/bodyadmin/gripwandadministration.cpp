@@ -76,14 +76,14 @@ int GripwandAdministration::maxNumberOfBodies(const QString &btype)
 {
     // Heads follow the Gripwands, so every type gets the Gripwand maximum.
     return loader.maximum(QStringLiteral("gripwand max_number_of_devices"), btype, DefaultMaximum,
-        tr("Error: Unable to get max number of %1 bodies"));
+        QStringLiteral("Error: Unable to get max number of %1 bodies"));
 }
 
 void GripwandAdministration::setNumberOfBodies(const QString &btype, int count)
 {
     if (btype == Gripwand)
         operations.setNumberOfBodies(QStringLiteral("gripwand number_of_devices %1"), btype, count,
-            tr("Error: Unable to set number of %1 bodies to %2"));
+            QStringLiteral("Error: Unable to set number of %1 bodies to %2"));
 }
 
 // Radio devices.
@@ -118,8 +118,9 @@ QString GripwandAdministration::modelOf(const QStringList &words)
             &description)
         != 0) {
         // The vendor word fills both places; the log's readers know it so.
-        channel.report(tr("Error: Unable to get model description of vendor %1 model %2")
-                           .arg(words.value(1), words.value(1)));
+        channel.report(
+            QStringLiteral("Error: Unable to get model description of vendor %1 model %2")
+                .arg(words.value(1), words.value(1)));
         return unknown;
     }
     return CommandText::withoutDoubleQuotes(description);
@@ -142,16 +143,19 @@ bool GripwandAdministration::isMultiUserActive()
 {
     bool on = false;
     if (!askMultiUser(QStringLiteral("gripwand multiuser_available"),
-            tr("Error: Unable to get info whether multiuser gripwand is available"), &on)
+            QStringLiteral("Error: Unable to get info whether multiuser gripwand is available"),
+            &on)
         || !on)
         return false;
     if (channel.atLeast(0, 13)
         && (!askMultiUser(QStringLiteral("gripwand multiuser_with_head_available"),
-                tr("Error: Unable to get info multiuser gripwand with head available"), &on)
+                QStringLiteral("Error: Unable to get info multiuser gripwand with head available"),
+                &on)
             || !on))
         return false;
     return askMultiUser(QStringLiteral("gripwand multiuser"),
-               tr("Error: Unable to get info whether multiuser gripwand is activated"), &on)
+               QStringLiteral("Error: Unable to get info whether multiuser gripwand is activated"),
+               &on)
         && on;
 }
 
@@ -162,7 +166,6 @@ void GripwandAdministration::setUpHeadTable()
     addBodyType(Head, ui->tableWidget_head, nullptr,
         { IdColumn, CalibrationColumn, DeleteColumn, ResetColumn }, QStringLiteral("%1"));
     ui->tableWidget_head->setColumnHidden(3, true);
-    BodyTableFiller::stretchColumn(ui->tableWidget_head, 1);
 }
 
 void GripwandAdministration::ON_spinBox_gripwands_valueChanged(int num)
@@ -176,7 +179,8 @@ void GripwandAdministration::ON_spinBox_gripwands_valueChanged(int num)
 void GripwandAdministration::applyHeaderModes()
 {
     BodyTableFiller::stretchColumn(ui->tableWidget_gripwand, NameCol);
-    if (entry(Head))
+    // Until it has rows the head table keeps its last section stretching.
+    if (ui->tableWidget_head->rowCount() > 0)
         BodyTableFiller::stretchColumn(ui->tableWidget_head, 1);
 }
 
@@ -202,8 +206,8 @@ void GripwandAdministration::update_tab()
     bool withHead = false;
     headShown = isMultiUserActive()
         && askMultiUser(QStringLiteral("gripwand multiuser_with_head"),
-            tr("Error: Unable to get info whether multiuser gripwand with head is "
-               "activated"),
+            QStringLiteral("Error: Unable to get info whether multiuser gripwand with head is "
+                           "activated"),
             &withHead)
         && withHead;
     if (headShown && !entry(Head))
@@ -220,8 +224,8 @@ void GripwandAdministration::ON_activeConfigurationChanged()
 {
     if (!locked)
         operations.switchGlobalFilterOn(QStringLiteral("gripwand filter"),
-            tr("Error: Unable to get global filter6d status of Gripwand bodies"),
-            tr("Error: Unable to set global filter6d status of Gripwand bodies"));
+            QStringLiteral("Error: Unable to get global filter6d status of Gripwand bodies"),
+            QStringLiteral("Error: Unable to set global filter6d status of Gripwand bodies"));
 }
 
 // Buttons.

@@ -102,7 +102,7 @@ void MtAdministration::testAvailability()
 
 int MtAdministration::maxNumberOfBodies(const QString &btype)
 {
-    const QString error = tr("Error: Unable to get max number of %1 bodies");
+    const QString error = QStringLiteral("Error: Unable to get max number of %1 bodies");
     if (btype == Tool)
         return loader.maximum(
             QStringLiteral("measurementtool max_number_of_tools"), btype, DefaultMaximum, error);
@@ -114,7 +114,7 @@ int MtAdministration::maxNumberOfBodies(const QString &btype)
 
 void MtAdministration::setNumberOfBodies(const QString &btype, int count)
 {
-    const QString error = tr("Error: Unable to set number of %1 bodies to %2");
+    const QString error = QStringLiteral("Error: Unable to set number of %1 bodies to %2");
     if (btype == Tool)
         operations.setNumberOfBodies(
             QStringLiteral("measurementtool number_of_tools %1"), btype, count, error);
@@ -241,7 +241,7 @@ bool MtAdministration::deleteBody(const QString &btype, int index)
     if (channel.setParameter(
             QStringLiteral("body desc %1 %2").arg(body, CommandText::quoted(QString())))
         != 0) {
-        channel.report(tr("Unable to reset description of %1 %2")
+        channel.report(QStringLiteral("Unable to reset description of %1 %2")
                            .arg(references->typeDescription, QString::number(index + 1)));
         failed = true;
     }
@@ -250,7 +250,7 @@ bool MtAdministration::deleteBody(const QString &btype, int index)
         if (channel.setParameter(QStringLiteral("measurementtool reference_of_tool %1 none")
                                      .arg(CommandText::bodyIdOfIndex(row)))
             != 0)
-            channel.report(tr("Error: Unable to set ref. body"));
+            channel.report(QStringLiteral("Error: Unable to set ref. body"));
     }
     if (failed)
         QMessageBox::warning(

@@ -87,14 +87,14 @@ int StandardAdministration::maxNumberOfBodies(const QString &btype)
     if (btype != Standard)
         return 0;
     return loader.maximum(QStringLiteral("standard max_number_of_bodies"), btype, DefaultMaximum,
-        tr("Error: Unable to get max number of %1 bodies"));
+        QStringLiteral("Error: Unable to get max number of %1 bodies"));
 }
 
 void StandardAdministration::setNumberOfBodies(const QString &btype, int count)
 {
     if (btype == Standard)
         operations.setNumberOfBodies(QStringLiteral("standard number_of_bodies %1"), btype, count,
-            tr("Error: Unable to set number of %1 bodies to %2"));
+            QStringLiteral("Error: Unable to set number of %1 bodies to %2"));
 }
 
 void StandardAdministration::updateColumnsAndStatus()
@@ -239,8 +239,8 @@ void StandardAdministration::ON_activeConfigurationChanged()
 {
     if (!locked)
         operations.switchGlobalFilterOn(QStringLiteral("standard filter_bodies"),
-            tr("Error: Unable to get global filter6d status of standard bodies"),
-            tr("Error: Unable to set global filter6d status of standard bodies"));
+            QStringLiteral("Error: Unable to get global filter6d status of standard bodies"),
+            QStringLiteral("Error: Unable to set global filter6d status of standard bodies"));
 }
 
 // Target assignment.

@@ -107,14 +107,14 @@ void TargetSearch::start()
     if (combo && combo->currentText() != TargetStatus::FoundTargets)
         combo->setCurrentIndex(combo->findText(TargetStatus::FoundTargets));
 
-    const QString refused = tr("Error: Unable to start target library calibration");
+    const QString refused = QStringLiteral("Error: Unable to start target library calibration");
     QString available;
     if (m_channel.getString(QStringLiteral("cal available targetlib"), &available) != 0) {
         m_channel.report(refused);
         return;
     }
     if (!CommandText::isYes(available)) {
-        m_channel.report(refused + tr(". Calibration type is not available"));
+        m_channel.report(refused + QStringLiteral(". Calibration type is not available"));
         return;
     }
     QString active;
@@ -123,7 +123,7 @@ void TargetSearch::start()
         return;
     }
     if (!CommandText::isNone(active) && active != QLatin1String("err")) {
-        m_channel.report(refused + tr(". Calibration is already active."));
+        m_channel.report(refused + QStringLiteral(". Calibration is already active."));
         return;
     }
 
@@ -141,12 +141,12 @@ void TargetSearch::start()
         return;
     }
 
-    m_channel.report(tr("target library calibration started"));
+    m_channel.report(QStringLiteral("target library calibration started"));
     const QList<Target *> found
         = m_status.targetsOf(m_widgets.targetType, TargetStatus::FoundTargets);
     for (const Target *target : found) {
         if (target->calibrated)
-            m_channel.report(tr("%1 already calibrated").arg(target->name));
+            m_channel.report(QStringLiteral("%1 already calibrated").arg(target->name));
     }
     if (m_widgets.progressBar)
         m_widgets.progressBar->setValue(0);
@@ -158,7 +158,8 @@ void TargetSearch::measurementStep()
     QString step;
     if (m_channel.getString(QStringLiteral("status step_active"), &step) != 0) {
         stopMeasurementTimer();
-        m_channel.report(tr("Error during target library calibration. Calibration aborted"));
+        m_channel.report(
+            QStringLiteral("Error during target library calibration. Calibration aborted"));
         m_widgets.start->setEnabled(true);
         m_widgets.stop->setEnabled(false);
         startStatusTimer();
@@ -174,7 +175,7 @@ void TargetSearch::measurementStep()
     }
 
     stopMeasurementTimer();
-    m_channel.report(tr("target library calibration stopped"));
+    m_channel.report(QStringLiteral("target library calibration stopped"));
     if (m_widgets.progressBar)
         m_widgets.progressBar->setValue(m_widgets.progressBar->maximum());
     if (m_widgets.recountAtEnd) {
@@ -192,7 +193,7 @@ void TargetSearch::stop()
     if (m_widgets.progressBar)
         m_widgets.progressBar->setValue(0);
     m_channel.sendCommand(QStringLiteral("velora2 cal targetlib stop"));
-    m_channel.report(tr("target library calibration cancelled"));
+    m_channel.report(QStringLiteral("target library calibration cancelled"));
     // Stopped by the user: the tab is usable again before the result shows.
     restoreIdleControls(true);
     announceResult();

@@ -60,6 +60,14 @@ void TargetStatus::refreshCalibratedOfGroup(const QString &bodyType, const QStri
         refreshCalibrated(target->id);
 }
 
+void TargetStatus::refreshCalibratedOfRows(const QTableWidget *table) const
+{
+    for (int row = 0; row < table->rowCount(); ++row) {
+        if (const QTableWidgetItem *id = table->item(row, IdColumn))
+            refreshCalibrated(id->text());
+    }
+}
+
 int TargetStatus::countTracked(const QString &bodyType) const
 {
     int count = 0;

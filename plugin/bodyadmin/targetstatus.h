@@ -30,6 +30,8 @@ public:
     void refreshTracked(const QString &bodyType) const;
     void refreshCalibrated(const QString &id) const;
     void refreshCalibratedOfGroup(const QString &bodyType, const QString &group) const;
+    // The targets a table lists, by the id in each row.
+    void refreshCalibratedOfRows(const QTableWidget *table) const;
     // Targets of the type that are tracked now.
     int countTracked(const QString &bodyType) const;
 

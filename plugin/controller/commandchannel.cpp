@@ -1,10 +1,6 @@
 #include "commandchannel.h"
 
-#include "replymemory.h"
-
 #include <iomanager.h>
-
-#include <QVariant>
 
 namespace
 {
@@ -37,7 +33,6 @@ CommandChannel::CommandChannel(IOManager *ioManager, const BackendVersions *vers
     : m_io(ioManager)
     , m_versions(versions)
     , m_gate(versions)
-    , m_memory(ReplyMemory::of(ioManager))
 {
 }
 
@@ -51,81 +46,66 @@ QByteArray CommandChannel::outgoing(const QString &text) const
     return bytes;
 }
 
-template<typename Value, typename Read>
-int CommandChannel::read(char kind, const QString &path, Value *value, Read ioRead) const
-{
-    *value = Value();
-    if (!m_io)
-        return Failed;
-    const QByteArray command = outgoing(path);
-    QVariant remembered;
-    if (m_memory->recall(kind, command, &remembered)) {
-        *value = remembered.value<Value>();
-        return 0;
-    }
-    Value reply = Value();
-    const int result = ioRead(command.constData(), &reply);
-    // A failed read is asked again next time, and reported again.
-    if (result == 0) {
-        *value = reply;
-        m_memory->remember(kind, command, QVariant::fromValue(reply));
-    }
-    return result;
-}
-
 int CommandChannel::getString(const QString &path, QString *value) const
 {
-    return read('s', path, value, [this](const char *command, QString *reply) {
-        ReplyBuffer buffer;
-        const int result = m_io->getString(buffer.data(), "%s", command);
-        *reply = buffer.text();
-        return result;
-    });
+    value->clear();
+    if (!m_io)
+        return Failed;
+    ReplyBuffer buffer;
+    const int result = m_io->getString(buffer.data(), "%s", outgoing(path).constData());
+    if (result == 0)
+        *value = buffer.text();
+    return result;
 }
 
 int CommandChannel::getInt(const QString &path, int *value) const
 {
-    return read('i', path, value, [this](const char *command, int *reply) {
-        qint32 number = 0;
-        const int result = m_io->getInt(&number, "%s", command);
-        *reply = number;
-        return result;
-    });
+    *value = 0;
+    if (!m_io)
+        return Failed;
+    qint32 number = 0;
+    const int result = m_io->getInt(&number, "%s", outgoing(path).constData());
+    if (result == 0)
+        *value = number;
+    return result;
 }
 
 int CommandChannel::getCount(const QString &path, int *count) const
 {
     const int result = getInt(path, count);
-    if (result != 0)
-        return result;
-    if (*count < 0 || *count > CommandText::MaxCount) {
-        *count = 0;
-        return Failed;
-    }
-    return 0;
+    *count = qMax(*count, 0);
+    return result;
 }
 
 int CommandChannel::getDouble(const QString &path, double *value) const
 {
-    return read('d', path, value, [this](const char *command, double *reply) {
-        return m_io->getDouble(reply, "%s", command);
-    });
+    *value = 0.0;
+    if (!m_io)
+        return Failed;
+    double number = 0.0;
+    const int result = m_io->getDouble(&number, "%s", outgoing(path).constData());
+    if (result == 0)
+        *value = number;
+    return result;
 }
 
 int CommandChannel::getBool(const QString &path, bool *value) const
 {
-    return read('b', path, value,
-        [this](const char *command, bool *reply) { return m_io->getBool(reply, "%s", command); });
+    *value = false;
+    if (!m_io)
+        return Failed;
+    bool yes = false;
+    const int result = m_io->getBool(&yes, "%s", outgoing(path).constData());
+    if (result == 0)
+        *value = yes;
+    return result;
 }
 
 int CommandChannel::setParameter(const QString &command) const
 {
     if (!m_io)
         return Failed;
-    const int result = m_io->setParameter("%s", outgoing(command).constData());
-    // Also after a refusal: the controller may have taken part of it.
-    m_memory->forget();
-    return result;
+    return m_io->setParameter("%s", outgoing(command).constData());
 }
 
 int CommandChannel::sendCommand(const QString &command, QString *reply) const
@@ -136,7 +116,6 @@ int CommandChannel::sendCommand(const QString &command, QString *reply) const
         return Failed;
     ReplyBuffer buffer;
     const int result = m_io->sendCommand(buffer.data(), "%s", outgoing(command).constData());
-    m_memory->forget();
     if (reply && result == 0)
         *reply = buffer.text();
     return result;
@@ -171,15 +150,6 @@ void CommandChannel::sendMessage(
     if (!m_io)
         return;
     m_io->sendMessage(receiver, sender, ReportLevel, outgoing(text).constData());
-    // The module that receives it may change the controller before it
-    // returns.
-    m_memory->forget();
-}
-
-void CommandChannel::forgetReplies() const
-{
-    if (m_memory)
-        m_memory->forget();
 }
 
 void CommandChannel::registerReceiver(const char *name, MessageReceiver *receiver) const

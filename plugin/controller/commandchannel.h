@@ -6,10 +6,7 @@
 
 #include <QString>
 
-#include <memory>
-
 class IOManager;
-class ReplyMemory;
 class MessageReceiver;
 struct BackendVersions;
 
@@ -22,12 +19,11 @@ struct BackendVersions;
 // (empty text, 0, false) so that callers can go on with it. Command texts are
 // complete: the channel passes them through "%s", never as a format.
 //
-// Within one burst of GUI work a read that was already answered is answered
-// again from memory (see ReplyMemory); writes, meta commands and messages
-// from other modules make it forget. Replies reach callers as the controller
-// wrote them; only where a text leaves the module, in a command or a request
-// to another module, are line breaks made blanks, so that no reply can end a
-// line early.
+// Every read goes to the controller: nothing is remembered here, since any
+// other module or the operator at the controller may change a value between
+// two reads. Replies reach callers as the controller wrote them; only where a text leaves the
+// module, in a command or a request to another module, are line breaks made blanks, so that no
+// reply can end a line early.
 class CommandChannel
 {
 public:
@@ -42,9 +38,7 @@ public:
 
     int getString(const QString &path, QString *value) const;
     int getInt(const QString &path, int *value) const;
-    // A count that drives a loop of queries: a reply outside 0 to
-    // CommandText::MaxCount comes from a broken controller and counts as a
-    // failed query, so no caller can be sent into billions of queries.
+    // A count that sizes a list: a negative reply means an empty list.
     int getCount(const QString &path, int *count) const;
     int getDouble(const QString &path, double *value) const;
     int getBool(const QString &path, bool *value) const;
@@ -62,8 +56,6 @@ public:
     void sendMessage(const char *receiver, const char *sender, const QString &text) const;
     void registerReceiver(const char *name, MessageReceiver *receiver) const;
     void unregisterReceiver(const char *name, MessageReceiver *receiver) const;
-    // Another module may have changed the controller: reads ask it again.
-    void forgetReplies() const;
 
     // Getters returning the value alone, for callers that only need the
     // neutral value on failure.
@@ -71,14 +63,10 @@ public:
 
 private:
     QByteArray outgoing(const QString &text) const;
-    // Reads of one kind ('s', 'i', 'd', 'b') through the memory.
-    template<typename Value, typename Read>
-    int read(char kind, const QString &path, Value *value, Read ioRead) const;
 
     IOManager *m_io;
     const BackendVersions *m_versions;
     VersionGate m_gate;
-    std::shared_ptr<ReplyMemory> m_memory;
 };
 
 #endif // TRACKING_COMMANDCHANNEL_H

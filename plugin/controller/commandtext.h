@@ -8,9 +8,6 @@
 class CommandText
 {
 public:
-    // Ids have at most three digits, so no count of bodies, targets, groups
-    // or presets can be larger.
-    static constexpr int MaxCount = 999;
     // Free text is cut to this many characters before it is sent.
     static constexpr int MaxTextLength = 100;
 

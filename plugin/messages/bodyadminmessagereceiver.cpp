@@ -10,9 +10,6 @@ BodyAdminMessageReceiver::BodyAdminMessageReceiver(QObject *parent)
 int BodyAdminMessageReceiver::receiveMessage(
     const char * /*receiver*/, const char *sender, const char *text)
 {
-    // The sender may have changed the controller just before, even within
-    // the burst of work that is reading it now.
-    channel.forgetReplies();
     // The first match wins; all comparisons are case-sensitive.
     const char *message = text ? text : "";
     const auto startsWith = [message](const char *prefix) {

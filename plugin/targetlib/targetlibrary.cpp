@@ -44,7 +44,7 @@ void Targetlibrary::loadTargets()
         const QString id = CommandText::targetId(i);
         QString reply;
         if (channel.getString(QStringLiteral("targetlib target_name %1").arg(id), &reply) != 0) {
-            channel.report(tr("Error: Unable to get target name"));
+            channel.report(QStringLiteral("Error: Unable to get target name"));
             continue;
         }
         // "'GT1' \"Glasses Target 1\"": the short name, then the description.
@@ -62,7 +62,7 @@ void Targetlibrary::loadTargets()
         QString bodyType;
         if (channel.getString(QStringLiteral("targetlib target_bodytype %1").arg(id), &bodyType)
             != 0) {
-            channel.report(tr("Error: Unable to get body type"));
+            channel.report(QStringLiteral("Error: Unable to get body type"));
             bodyType = CommandText::none();
         }
 
@@ -82,7 +82,7 @@ void Targetlibrary::loadGroups()
         QString groupName;
         if (channel.getString(QStringLiteral("targetlib group_name %1").arg(group), &groupName)
             != 0) {
-            channel.report(tr("Error: Unable to get group name"));
+            channel.report(QStringLiteral("Error: Unable to get group name"));
             continue;
         }
         groupName = CommandText::withoutDoubleQuotes(groupName);
