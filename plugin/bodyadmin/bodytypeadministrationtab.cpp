@@ -1,21 +1,16 @@
 #include "bodytypeadministrationtab.h"
 
+#include "bodytableinput.h"
 #include "busycursor.h"
 #include "celltooltips.h"
 #include "editdelegate.h"
 #include "filterdialog.h"
 #include "handoverrequest.h"
-#include "target.h"
 #include "targetlibrary.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMessageBox>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTableWidget>
@@ -43,6 +38,8 @@ BodyTypeAdministrationTab::BodyTypeAdministrationTab(IOManager *ioManager, QWidg
     , targetSearch(new TargetSearch(this, channel, targetStatus))
     , dialog(parent)
     , delegate(new EditDelegate(this))
+    , input(new BodyTableInput(this))
+    , assignment(this)
 {
     connect(targetSearch->measurementTimer(), &QTimer::timeout, this,
         &BodyTypeAdministrationTab::doMeasurement_tl);
@@ -78,12 +75,12 @@ BodyTypeEntry &BodyTypeAdministrationTab::addBodyType(const QString &type, QTabl
         // A count is sent when it is finished (arrows, Enter, leaving the
         // box): typing "10" must not first send 1 and drop the bodies above.
         spinBox->setKeyboardTracking(false);
-        spinBox->installEventFilter(this);
+        spinBox->installEventFilter(input);
         connect(spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
             &BodyTypeAdministrationTab::ON_spinBox_valueChanged);
     }
     if (table) {
-        table->installEventFilter(this);
+        table->installEventFilter(input);
         connect(table, &QTableWidget::itemChanged, this,
             &BodyTypeAdministrationTab::ON_tableWidget_itemChanged);
         connect(table, &QTableWidget::cellClicked, this,
@@ -319,115 +316,7 @@ void BodyTypeAdministrationTab::ON_tableWidget_itemChanged(QTableWidgetItem *ite
 
 void BodyTypeAdministrationTab::ON_tableWidget_cellClicked(int iRow, int iCol)
 {
-    clickCell(qobject_cast<QTableWidget *>(sender()), iRow, iCol);
-}
-
-// A click anywhere in a cell, on its check box or beside it, runs the
-// column's action with the state the cell shows now.
-void BodyTypeAdministrationTab::clickCell(QTableWidget *table, int row, int column)
-{
-    if (!table || !table->isVisible())
-        return;
-    QTableWidgetItem *item = table->item(row, column);
-    if (!item)
-        return;
-    table->setCurrentItem(item);
-    const QString type = typeOf(table);
-    const BodyTypeEntry *e = entry(type);
-    if (!e)
-        return;
-    if (!locked && e->contains(row))
-        actOnCell(type, row, e->columnRoles.value(column), item);
-    emit selection_changed(selectedType, selectedIndex);
-    storeSelection();
-}
-
-void BodyTypeAdministrationTab::actOnCell(
-    const QString &type, int row, int role, const QTableWidgetItem *item)
-{
-    BodyTypeEntry *e = entry(type);
-    const bool usable = item && item->data(BodyTableFiller::UsableRole).toInt() == 1;
-    const bool checked = item && item->checkState() == Qt::Checked;
-    switch (role) {
-    case ActiveColumn:
-        setBodyActive(type, row, checked);
-        break;
-    case ReferenceColumn:
-        setReferenceBody(type, row, checked);
-        break;
-    case FilterColumn:
-        if (e->filterAvailable && e->bodies.at(row).calibrated) {
-            toggleFilter(type, row);
-            e->bodies[row].filterText = loader.filterText(type, row);
-            refreshTable(type);
-        }
-        break;
-    case DeleteColumn:
-        if (usable) {
-            deleteFromTable(type, row);
-            update_tab();
-        }
-        break;
-    case ResetColumn:
-        if (usable)
-            resetBody(type, row);
-        break;
-    default:
-        break;
-    }
-}
-
-bool BodyTypeAdministrationTab::eventFilter(QObject *watched, QEvent *event)
-{
-    // Enter finishes a count where it was typed; it must not also press the
-    // dialog's default button and close the dialog.
-    auto *spinBox = qobject_cast<QSpinBox *>(watched);
-    if (spinBox && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            spinBox->interpretText();
-            spinBox->selectAll();
-            return true;
-        }
-    }
-    auto *table = qobject_cast<QTableWidget *>(watched);
-    const QString type = typeOf(table);
-    if (!table || type.isEmpty() || event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    const int row = table->currentRow();
-    const BodyTypeEntry *e = entry(type);
-    if (key == Qt::Key_Space && pressCheckCell(table, *e))
-        return true;
-    if ((key != Qt::Key_F2 && key != Qt::Key_Delete) || !e->contains(row))
-        return QWidget::eventFilter(watched, event);
-    if (!locked) {
-        if (key == Qt::Key_F2) {
-            if (QTableWidgetItem *name = table->item(row, e->columnOf(NameColumn)))
-                table->editItem(name);
-        } else {
-            actOnCell(type, row, DeleteColumn, table->item(row, e->columnOf(DeleteColumn)));
-            emit selection_changed(selectedType, selectedIndex);
-            storeSelection();
-        }
-    }
-    return true;
-}
-
-// Space on a check cell does what a click on its box does: the box toggles
-// and the column's action runs once.
-bool BodyTypeAdministrationTab::pressCheckCell(QTableWidget *table, const BodyTypeEntry &e)
-{
-    const int role = e.columnRoles.value(table->currentColumn());
-    QTableWidgetItem *item = table->currentItem();
-    if (!item || (role != ActiveColumn && role != ReferenceColumn))
-        return false;
-    if (!locked && (item->flags() & Qt::ItemIsUserCheckable)) {
-        const QSignalBlocker blocker(table);
-        item->setCheckState(item->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
-    }
-    clickCell(table, item->row(), item->column());
-    return true;
+    input->click(qobject_cast<QTableWidget *>(sender()), iRow, iCol);
 }
 
 void BodyTypeAdministrationTab::keyPressEvent(QKeyEvent *event)
@@ -586,34 +475,10 @@ void BodyTypeAdministrationTab::updateTrackedAndAcceptStatus_tl()
 
 void BodyTypeAdministrationTab::applySelectionRules()
 {
-    applySelectDeselectRules(-1);
-}
-
-void BodyTypeAdministrationTab::applySelectDeselectRules(int deselectColumn)
-{
-    const TargetSearch::Widgets &w = targetSearch->widgets();
-    const BodyTypeEntry *e = entry(w.bodyType);
-    QTableWidget *bodies = w.bodyTable;
-    if (deselectColumn < 0 && e)
-        deselectColumn = e->columnOf(NameColumn);
-    const bool idle = w.start && w.start->isEnabled();
-    const int bodyRow = bodies ? bodies->currentRow() : -1;
-    const int targetRow = w.targetTable ? w.targetTable->currentRow() : -1;
-    if (w.select)
-        w.select->setEnabled(idle && bodyRow >= 0 && targetRow >= 0);
-    if (w.deselect) {
-        const QTableWidgetItem *name
-            = bodyRow >= 0 ? bodies->item(bodyRow, deselectColumn) : nullptr;
-        w.deselect->setEnabled(idle && name && !name->text().isEmpty());
-    }
+    assignment.applyRules(-1);
 }
 
 void BodyTypeAdministrationTab::setSearchControlsEnabled(bool /*enabled*/) { }
-
-void BodyTypeAdministrationTab::fillTargetTable(const QString &group)
-{
-    targetSearch->fillTargetTable(group);
-}
 
 bool BodyTypeAdministrationTab::resolveTargetConflict(const QString & /*shortName*/)
 {
@@ -621,126 +486,6 @@ bool BodyTypeAdministrationTab::resolveTargetConflict(const QString & /*shortNam
 }
 
 void BodyTypeAdministrationTab::targetAssigned(const QString & /*targetId*/) { }
-
-void BodyTypeAdministrationTab::selectTarget(int bodyRow, int targetRow, const QString &bodyName)
-{
-    const QTableWidget *targets = targetSearch->widgets().targetTable;
-    const QTableWidgetItem *id
-        = targets ? targets->item(targetRow, TargetStatus::IdColumn) : nullptr;
-    const QTableWidgetItem *shortName
-        = targets ? targets->item(targetRow, TargetStatus::ShortNameColumn) : nullptr;
-    const QString targetId = id ? id->text() : QString();
-    if (!confirmOverwrite(bodyName)
-        || !resolveTargetConflict(shortName ? shortName->text() : QString()))
-        return;
-    assignTarget(bodyRow, targetRow);
-    update_tab();
-    targetAssigned(targetId);
-}
-
-void BodyTypeAdministrationTab::selectCurrentTarget(bool firstTargetWhenNone)
-{
-    const TargetSearch::Widgets &w = targetSearch->widgets();
-    const BodyTypeEntry *e = entry(w.bodyType);
-    if (!e || !w.bodyTable || w.bodyTable->currentRow() < 0)
-        return;
-    assignBodyRow = w.bodyTable->currentRow();
-    assignTargetRow = w.targetTable ? w.targetTable->currentRow() : -1;
-    if (firstTargetWhenNone)
-        assignTargetRow = qMax(assignTargetRow, 0);
-    const QTableWidgetItem *name = w.bodyTable->item(assignBodyRow, e->columnOf(NameColumn));
-    selectTarget(assignBodyRow, assignTargetRow, name ? name->text() : QString());
-}
-
-void BodyTypeAdministrationTab::deselectCurrentTarget()
-{
-    const QTableWidget *bodies = targetSearch->widgets().bodyTable;
-    if (bodies && bodies->currentRow() >= 0)
-        deselectTarget(bodies->currentRow());
-}
-
-void BodyTypeAdministrationTab::showCategory(const QString &group)
-{
-    targetStatus.refreshCalibratedOfGroup(targetSearch->widgets().targetType, group);
-    fillTargetTable(group);
-    applySelectionRules();
-}
-
-void BodyTypeAdministrationTab::beginRefresh()
-{
-    const TargetSearch::Widgets &w = targetSearch->widgets();
-    assignBodyRow = w.bodyTable ? qMax(w.bodyTable->currentRow(), 0) : 0;
-    assignTargetRow = w.targetTable ? w.targetTable->currentRow() : -1;
-    fillTargetTable(w.categoryCombo ? w.categoryCombo->currentText() : QString());
-}
-
-void BodyTypeAdministrationTab::endRefresh()
-{
-    const TargetSearch::Widgets &w = targetSearch->widgets();
-    if (w.bodyTable && assignBodyRow < w.bodyTable->rowCount())
-        w.bodyTable->setCurrentCell(assignBodyRow, 0);
-    if (w.targetTable && assignTargetRow >= 0 && assignTargetRow < w.targetTable->rowCount())
-        w.targetTable->setCurrentCell(assignTargetRow, 0);
-    if (w.resultLabel)
-        w.resultLabel->clear();
-    if (w.progressBar)
-        w.progressBar->setValue(0);
-    if (w.stop)
-        w.stop->setEnabled(false);
-}
-
-void BodyTypeAdministrationTab::deselectTarget(int bodyRow)
-{
-    removeTarget(bodyRow);
-    update_tab();
-}
-
-bool BodyTypeAdministrationTab::confirmOverwrite(const QString &bodyName)
-{
-    return bodyName.isEmpty()
-        || QMessageBox::warning(this, tr("Warning"),
-               tr("Overwrite body calibration data of %1?").arg(bodyName),
-               QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel)
-        == QMessageBox::Ok;
-}
-
-bool BodyTypeAdministrationTab::assignTarget(int bodyRow, int targetRow)
-{
-    const TargetSearch::Widgets &w = targetSearch->widgets();
-    BodyTypeEntry *e = entry(w.bodyType);
-    const QTableWidgetItem *idItem
-        = w.targetTable ? w.targetTable->item(targetRow, TargetStatus::IdColumn) : nullptr;
-    const Target *target
-        = idItem && targetLibrary ? targetLibrary->target(idItem->text()) : nullptr;
-    if (!e || !e->contains(bodyRow) || !target)
-        return false;
-    const QString type = w.bodyType;
-
-    QList<int> affected;
-    const bool assigned
-        = operations.calibrateFromTarget(*e, type, bodyRow, target->name, &affected);
-    for (int i : qAsConst(affected))
-        loadBody(type, i);
-    targetStatus.refreshCalibrated(target->id);
-    refreshTable(type);
-    return assigned;
-}
-
-void BodyTypeAdministrationTab::removeTarget(int bodyRow)
-{
-    const QString type = targetSearch->widgets().bodyType;
-    const BodyTypeEntry *e = entry(type);
-    if (e && e->contains(bodyRow))
-        deleteFromTable(type, bodyRow);
-}
-
-void BodyTypeAdministrationTab::refreshTargetStatus()
-{
-    const TargetSearch::Widgets &w = targetSearch->widgets();
-    if (w.targetTable)
-        targetStatus.refreshCalibratedOfRows(w.targetTable);
-    fillTargetTable(w.categoryCombo ? w.categoryCombo->currentText() : QString());
-}
 
 // Pieces the tabs share.
 

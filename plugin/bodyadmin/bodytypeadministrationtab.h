@@ -6,12 +6,14 @@
 #include "bodytablefiller.h"
 #include "bodytypeentry.h"
 #include "commandchannel.h"
+#include "targetassignment.h"
 #include "targetsearch.h"
 #include "targetstatus.h"
 
 #include <QMap>
 #include <QWidget>
 
+class BodyTableInput;
 class BusyCursor;
 class EditDelegate;
 class IOManager;
@@ -35,6 +37,8 @@ struct BackendVersions;
 class BodyTypeAdministrationTab : public QWidget
 {
     Q_OBJECT
+    friend class BodyTableInput;
+    friend class TargetAssignment;
     friend class TargetSearch;
 
 public:
@@ -66,7 +70,7 @@ public:
     virtual void applySelectionRules();
     // Reads the used state of the listed library targets again and refills
     // the target table, after another module may have calibrated a body.
-    void refreshTargetStatus();
+    void refreshTargetStatus() { assignment.refreshListedTargets(); }
     int foundTargetCount() const { return targetSearch->foundTargets(); }
 
 public slots:
@@ -102,9 +106,7 @@ protected slots:
     virtual void updateTrackedAndAcceptStatus_tl();
 
 protected:
-    // F2 and Delete on a body table; Enter that a spin box or a name editor
-    // has taken.
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    // Enter that a name editor has taken.
     void keyPressEvent(QKeyEvent *event) override;
 
     // Registers a body type: reads its description and filter availability,
@@ -131,28 +133,21 @@ protected:
 
     // Target search and assignment; a tab overrides where it differs.
     void setSearchWidgets(const TargetSearch::Widgets &widgets);
-    void fillTargetTable(const QString &group);
-    // Select: asks before a named body's calibration is overwritten, lets
-    // the tab check for conflicts, assigns and refreshes the tab.
-    void selectTarget(int bodyRow, int targetRow, const QString &bodyName);
-    void deselectTarget(int bodyRow);
-    // The Select and Deselect buttons on the current rows. Without a current
-    // target row some tabs take the first, the others none.
-    void selectCurrentTarget(bool firstTargetWhenNone);
-    void deselectCurrentTarget();
-    // The category combo: the targets of a group, their used state read anew.
-    void showCategory(const QString &group);
+    void fillTargetTable(const QString &group) { assignment.fillTargetTable(group); }
+    void selectCurrentTarget(bool firstTargetWhenNone)
+    {
+        assignment.selectCurrent(firstTargetWhenNone);
+    }
+    void deselectCurrentTarget() { assignment.deselectCurrent(); }
+    void showCategory(const QString &group) { assignment.showCategory(group); }
     // Around the base's update_tab: keep the current body and target rows
     // across the reload, then reset the search widgets.
-    void beginRefresh();
-    void endRefresh();
-    bool confirmOverwrite(const QString &bodyName);
-    bool assignTarget(int bodyRow, int targetRow);
-    void removeTarget(int bodyRow);
+    void beginRefresh() { assignment.beginRefresh(); }
+    void endRefresh() { assignment.endRefresh(); }
+    // A Select may be refused by the tab after the overwrite question, and
+    // the tab may warn once the target is assigned.
     virtual bool resolveTargetConflict(const QString &shortName);
     virtual void targetAssigned(const QString &targetId);
-    // deselectColumn -1: the name column.
-    void applySelectDeselectRules(int deselectColumn);
     // Controls a tab locks while a search runs.
     virtual void setSearchControlsEnabled(bool enabled);
 
@@ -174,13 +169,11 @@ protected:
     int assignTargetRow = -1;
     EditDelegate *delegate;
     BusyCursor *busyCursor = nullptr; // set while a reload runs
+    BodyTableInput *input;
+    TargetAssignment assignment;
 
 private:
     void deleteFromTable(const QString &type, int index);
-    // What a click on a cell does, by the role of its column.
-    void actOnCell(const QString &type, int row, int role, const QTableWidgetItem *item);
-    void clickCell(QTableWidget *table, int row, int column);
-    bool pressCheckCell(QTableWidget *table, const BodyTypeEntry &e);
     void enableChildren();
     void toggleFilter(const QString &type, int index);
     const BodyRecord *selectedBody() const;

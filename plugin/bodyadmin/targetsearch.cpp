@@ -129,7 +129,7 @@ void TargetSearch::start()
 
     m_widgets.start->setEnabled(false);
     m_widgets.stop->setEnabled(true);
-    m_tab->applySelectDeselectRules(m_widgets.deselectColumnAtStart);
+    m_tab->assignment.applyRules(m_widgets.deselectColumnAtStart);
     m_tab->setSearchControlsEnabled(false);
     stopMeasurementTimer();
     stopStatusTimer();
