@@ -12,6 +12,7 @@
 #include "settingrules.h"
 #include "simulationclock.h"
 #include "targetsearch.h"
+#include "transcriptcheck.h"
 
 #include <QDir>
 #include <QFile>
@@ -73,6 +74,7 @@ public:
     BackendVersions versions;
     QList<LogEntry> log;
     ReceiverRegistry receivers;
+    TranscriptCheck transcript;
     int replyTimeout = 0;
 };
 
@@ -130,6 +132,8 @@ int SimulatedController::Private::typedExchange(
 void SimulatedController::Private::record(LogEntry entry)
 {
     log.append(entry);
+    if (isCommand(entry))
+        transcript.sent(entry.text);
     // A copy: a listener may clear the log while others still read the entry.
     emit q->logged(entry);
 }
@@ -285,6 +289,11 @@ QStringList SimulatedController::commands() const
     return texts;
 }
 
+QString SimulatedController::commandsAsCode() const
+{
+    return TranscriptCheck::asCode(commands());
+}
+
 QStringList SimulatedController::messages() const
 {
     QStringList texts;
@@ -309,6 +318,21 @@ QStringList SimulatedController::reports() const
 void SimulatedController::clearLog()
 {
     d->log.clear();
+}
+
+void SimulatedController::expectTranscript(const QStringList &commands)
+{
+    d->transcript.expect(commands);
+}
+
+QString SimulatedController::transcriptMismatch() const
+{
+    return d->transcript.mismatch();
+}
+
+void SimulatedController::endTranscript()
+{
+    d->transcript.end();
 }
 
 void SimulatedController::failCommand(const QString &pattern, int result, int times)
