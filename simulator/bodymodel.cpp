@@ -2,6 +2,8 @@
 
 #include "parametertable.h"
 
+#include <utility>
+
 namespace sim
 {
 
@@ -122,7 +124,8 @@ QString BodyModel::maximumPath(const QString &type)
 
 QString BodyModel::typeOfCountPath(const QString &path)
 {
-    for (const QString &type : types()) {
+    const QStringList allTypes = types();
+    for (const QString &type : allTypes) {
         if (countPaths(type).contains(path))
             return type;
     }
@@ -131,7 +134,8 @@ QString BodyModel::typeOfCountPath(const QString &path)
 
 int BodyModel::count(const QString &type) const
 {
-    for (const QString &path : countPaths(type)) {
+    const QStringList paths = countPaths(type);
+    for (const QString &path : paths) {
         qint32 number = 0;
         if (m_table.contains(path) && ParameterTable::toInt(m_table.value(path), &number))
             return number;
@@ -157,14 +161,17 @@ QList<BodyModel::OwnedPath> BodyModel::ownedPaths(const QString &type, int numbe
 {
     const QString id = bodyId(number);
     QList<OwnedPath> owned;
-    for (const QString &path : m_table.pathsStartingWith(BodyGroup + QLatin1Char(' '))) {
+    const QStringList bodyPaths = m_table.pathsStartingWith(BodyGroup + QLatin1Char(' '));
+    for (const QString &path : bodyPaths) {
         const QStringList words = path.split(QLatin1Char(' '));
         if (words.size() >= 4 && words.at(2) == type && words.at(3) == id)
             owned.append({ words, 3 });
     }
-    for (const QString &prefix : ownPrefixes(type)) {
+    const QStringList prefixes = ownPrefixes(type);
+    for (const QString &prefix : prefixes) {
         const int idIndex = prefix.count(QLatin1Char(' ')) + 1;
-        for (const QString &path : m_table.pathsStartingWith(prefix + QLatin1Char(' ') + id)) {
+        const QStringList typePaths = m_table.pathsStartingWith(prefix + QLatin1Char(' ') + id);
+        for (const QString &path : typePaths) {
             const QStringList words = path.split(QLatin1Char(' '));
             if (words.at(idIndex) == id)
                 owned.append({ words, idIndex });
@@ -176,7 +183,8 @@ QList<BodyModel::OwnedPath> BodyModel::ownedPaths(const QString &type, int numbe
 QStringList BodyModel::parameterPaths(const QString &type, int number) const
 {
     QStringList paths;
-    for (const OwnedPath &path : ownedPaths(type, number))
+    const QList<OwnedPath> owned = ownedPaths(type, number);
+    for (const OwnedPath &path : owned)
         paths << path.words.join(QLatin1Char(' '));
     return paths;
 }
@@ -231,13 +239,14 @@ void BodyModel::createBody(const QString &type, int number, int templateNumber)
         for (const char *name : { "desc", "active", "calibrated", "recalibrated", "targetlib_name",
                  "number_of_marker" })
             paths.append({ { BodyGroup, QLatin1String(name), type, id }, 3 });
-        for (const QString &prefix : ownPrefixes(type)) {
+        const QStringList prefixes = ownPrefixes(type);
+        for (const QString &prefix : prefixes) {
             QStringList words = prefix.split(QLatin1Char(' '));
             const int idIndex = words.size();
             paths.append({ words << id, idIndex });
         }
     }
-    for (OwnedPath path : paths) {
+    for (OwnedPath path : std::as_const(paths)) {
         const QString templateValue = m_table.value(path.words.join(QLatin1Char(' ')));
         path.words[path.idIndex] = id;
         m_table.set(path.words.join(QLatin1Char(' ')), defaultValue(type, path, templateValue));
@@ -246,7 +255,8 @@ void BodyModel::createBody(const QString &type, int number, int templateNumber)
 
 void BodyModel::removeBody(const QString &type, int number)
 {
-    for (const QString &path : parameterPaths(type, number))
+    const QStringList paths = parameterPaths(type, number);
+    for (const QString &path : paths)
         m_table.remove(path);
     dropReferences(type, number);
 }
@@ -269,7 +279,8 @@ bool BodyModel::resize(const QString &type, int newCount, QString *error)
         createBody(type, number, existing > 0 ? 1 : 0);
     for (int number = existing; number > newCount; --number)
         removeBody(type, number);
-    for (const QString &path : countPaths(type))
+    const QStringList paths = countPaths(type);
+    for (const QString &path : paths)
         m_table.update(path, QString::number(newCount));
     return true;
 }
@@ -289,7 +300,8 @@ bool BodyModel::exchange(const QString &type, int first, int second, QString *er
     };
     QList<Move> moves;
     const auto collect = [&](int from, int to) {
-        for (OwnedPath path : ownedPaths(type, from)) {
+        const QList<OwnedPath> owned = ownedPaths(type, from);
+        for (OwnedPath path : owned) {
             const QString oldPath = path.words.join(QLatin1Char(' '));
             path.words[path.idIndex] = bodyId(to);
             moves.append({ oldPath, path.words.join(QLatin1Char(' ')), m_table.value(oldPath) });
@@ -309,7 +321,8 @@ void BodyModel::swapReferences(const QString &type, int first, int second)
 {
     const QString a = bodyText(type, first);
     const QString b = bodyText(type, second);
-    for (const QString &path : bodyReferencePaths(m_table)) {
+    const QStringList referencePaths = bodyReferencePaths(m_table);
+    for (const QString &path : referencePaths) {
         const QString value = m_table.value(path);
         if (value == a)
             m_table.update(path, b);
@@ -321,8 +334,9 @@ void BodyModel::swapReferences(const QString &type, int first, int second)
     // Tools name their reference by its bare number.
     const QString numberA = QString::number(first);
     const QString numberB = QString::number(second);
-    for (const QString &path :
-        m_table.pathsStartingWith(QStringLiteral("measurementtool reference_of_tool "))) {
+    const QStringList toolPaths
+        = m_table.pathsStartingWith(QStringLiteral("measurementtool reference_of_tool "));
+    for (const QString &path : toolPaths) {
         const QString value = m_table.value(path);
         if (value == numberA)
             m_table.update(path, numberB);
@@ -334,14 +348,16 @@ void BodyModel::swapReferences(const QString &type, int first, int second)
 void BodyModel::dropReferences(const QString &type, int number)
 {
     const QString body = bodyText(type, number);
-    for (const QString &path : bodyReferencePaths(m_table)) {
+    const QStringList referencePaths = bodyReferencePaths(m_table);
+    for (const QString &path : referencePaths) {
         if (m_table.value(path) == body)
             m_table.update(path, QStringLiteral("none"));
     }
     if (type != QLatin1String("measurementtool_reference"))
         return;
-    for (const QString &path :
-        m_table.pathsStartingWith(QStringLiteral("measurementtool reference_of_tool "))) {
+    const QStringList toolPaths
+        = m_table.pathsStartingWith(QStringLiteral("measurementtool reference_of_tool "));
+    for (const QString &path : toolPaths) {
         if (m_table.value(path) == QString::number(number))
             m_table.update(path, QStringLiteral("none"));
     }
@@ -359,8 +375,9 @@ void BodyModel::uncalibrate(const QString &type, int number)
     // Library targets forget the body, but it stays the reference: the
     // controller leaves that choice to the user.
     const QString body = bodyText(type, number);
-    for (const QString &path :
-        m_table.pathsStartingWith(QStringLiteral("targetlib target_status_calibrated"))) {
+    const QStringList targetPaths
+        = m_table.pathsStartingWith(QStringLiteral("targetlib target_status_calibrated"));
+    for (const QString &path : targetPaths) {
         if (m_table.value(path) == body)
             m_table.update(path, QStringLiteral("none"));
     }
@@ -388,7 +405,9 @@ void BodyModel::updateFilterAvailability(const QString &type, int number)
     const bool hasSensor
         = !isNoneOrEmpty(m_table.value(QStringLiteral("body inertial_sensor") + suffix));
     const QString availablePrefix = QStringLiteral("body filter6d_preset_available") + suffix;
-    for (const QString &path : m_table.pathsStartingWith(availablePrefix + QLatin1Char(' '))) {
+    const QStringList availablePaths
+        = m_table.pathsStartingWith(availablePrefix + QLatin1Char(' '));
+    for (const QString &path : availablePaths) {
         const QString preset = path.mid(availablePrefix.size() + 1);
         const bool available = !hasSensor || presetFitsSensor(preset);
         m_table.set(path, available ? QStringLiteral("yes") : QStringLiteral("no"));

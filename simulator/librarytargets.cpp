@@ -47,7 +47,8 @@ QString LibraryTargets::idOfName(const QString &name) const
 {
     if (name.isEmpty())
         return QString();
-    for (const QString &id : ids()) {
+    const QStringList targets = ids();
+    for (const QString &id : targets) {
         if (nameOf(id) == name)
             return id;
     }
@@ -81,13 +82,15 @@ void LibraryTargets::setTracked(const QString &id, bool tracked)
 
 void LibraryTargets::clearTracked()
 {
-    for (const QString &id : ids())
+    const QStringList targets = ids();
+    for (const QString &id : targets)
         setTracked(id, false);
 }
 
 void LibraryTargets::checkCustomCalibration(const BodyModel &bodies)
 {
-    for (const QString &id : ids()) {
+    const QStringList targets = ids();
+    for (const QString &id : targets) {
         const QString path = targetPath("target_status_calibrated_custom", id);
         if (!m_table.contains(path))
             continue;

@@ -17,7 +17,8 @@ const QString None = QStringLiteral("none");
 QStringList valuesUnder(const ParameterTable &table, const QString &prefix)
 {
     QStringList values;
-    for (const QString &path : table.pathsStartingWith(prefix))
+    const QStringList paths = table.pathsStartingWith(prefix);
+    for (const QString &path : paths)
         values << table.value(path);
     return values;
 }

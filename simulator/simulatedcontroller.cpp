@@ -1,25 +1,24 @@
 #include "simulatedcontroller.h"
 
 #include "bodymodel.h"
+#include "commanddispatcher.h"
 #include "faultinjector.h"
+#include "hostchannel.h"
 #include "librarytargets.h"
-#include "messagereceiver.h"
 #include "metacommands.h"
 #include "parametertable.h"
+#include "receiverregistry.h"
 #include "scenario.h"
 #include "settingrules.h"
 #include "simulationclock.h"
 #include "targetsearch.h"
+#include "transcriptcheck.h"
 
 #include <QDir>
 #include <QFile>
-#include <QPair>
-#include <QPointer>
-#include <QThread>
 
 #include <cstdarg>
-#include <cstdio>
-#include <cstring>
+#include <utility>
 
 // The scenarios are compiled into this static library; its users do not
 // know about them, so the controller registers them itself (from outside
@@ -36,65 +35,9 @@ static void initSimulatorResources()
 namespace sim
 {
 
-namespace
-{
-
-constexpr int BufferSize = IOManager::ReplyBufferSize;
-
-QString formatText(const char *format, va_list args)
-{
-    if (!format)
-        return QString();
-    va_list measure;
-    va_copy(measure, args);
-    const int size = std::vsnprintf(nullptr, 0, format, measure);
-    va_end(measure);
-    if (size <= 0)
-        return QString();
-    QByteArray text(size, Qt::Uninitialized); // holds size + 1 bytes with the zero
-    std::vsnprintf(text.data(), size_t(size) + 1, format, args);
-    return QString::fromLatin1(text);
-}
-
-// What a reader of the buffer sees: up to the first zero byte, and never
-// beyond the buffer.
-QByteArray readable(const QByteArray &written)
-{
-    const int zero = written.indexOf('\0');
-    return zero < 0 ? written : written.left(zero);
-}
-
-// Writes a reply the way the host's channel does: never more than the
-// buffer, normally cut to leave room for the zero byte.
-QByteArray writeReply(char *buffer, const QByteArray &reply, bool unterminated)
-{
-    QByteArray written;
-    if (unterminated) {
-        written = reply.left(BufferSize);
-        written.append(QByteArray(BufferSize - written.size(), ' '));
-    } else {
-        written = reply.left(BufferSize - 1);
-    }
-    if (buffer) {
-        std::memcpy(buffer, written.constData(), size_t(written.size()));
-        if (!unterminated)
-            buffer[written.size()] = '\0';
-    }
-    return written;
-}
-
-} // namespace
-
 class SimulatedController::Private
 {
 public:
-    struct Answer {
-        int result = 0;
-        QByteArray reply;
-        bool unterminated = false;
-        QString error;
-    };
-
     explicit Private(SimulatedController *owner)
         : q(owner)
         , bodies(table)
@@ -102,16 +45,20 @@ public:
         , search(table, targets)
         , rules(table, bodies)
         , meta(table, bodies, targets, search)
+        , dispatcher(table, rules, meta, search, clock, injector)
     {
     }
 
     void catchUp() { search.update(clock.now()); }
-    Answer exchange(LogEntry::Kind kind, const QString &text);
     int textExchange(LogEntry::Kind kind, const char *operation, const QString &text, char *reply);
     template<typename T, typename Parse, typename Show>
     int typedExchange(const char *operation, const QString &text, T *value, Parse parse, Show show);
     void record(LogEntry entry);
-    bool isRegistered(const QString &name, MessageReceiver *receiver) const;
+    static bool isCommand(const LogEntry &entry)
+    {
+        return entry.kind == LogEntry::Command || entry.kind == LogEntry::Query
+            || entry.kind == LogEntry::Setting;
+    }
     QStringList checkCounts(const Scenario &scenario, const QString &name) const;
 
     SimulatedController *q;
@@ -123,73 +70,21 @@ public:
     MetaCommands meta;
     SimulationClock clock;
     FaultInjector injector;
+    CommandDispatcher dispatcher;
     BackendVersions versions;
     QList<LogEntry> log;
-    struct Registration {
-        QString name;
-        MessageReceiver *receiver;
-        // Set for receivers that are QObjects: a host would call freed
-        // memory if one is destroyed while still registered.
-        QPointer<QObject> object;
-        bool isObject;
-        bool operator==(const Registration &other) const
-        {
-            return name == other.name && receiver == other.receiver;
-        }
-    };
-    QList<Registration> receivers;
-    int latency = 0;
+    ReceiverRegistry receivers;
+    TranscriptCheck transcript;
     int replyTimeout = 0;
 };
-
-SimulatedController::Private::Answer SimulatedController::Private::exchange(
-    LogEntry::Kind kind, const QString &text)
-{
-    if (latency > 0) {
-        QThread::msleep(ulong(latency));
-        clock.advance(latency);
-    }
-    catchUp();
-    const QString command = text.trimmed();
-
-    FaultInjector::Injection injection;
-    if (injector.take(command, kind == LogEntry::Setting, &injection)) {
-        if (injection.fails)
-            return { injection.result, QByteArray(), false, QStringLiteral("injected failure") };
-        return { 0, injection.reply, injection.unterminated, QString() };
-    }
-
-    switch (kind) {
-    case LogEntry::Command:
-        return { 0, meta.execute(command, clock.now()).toLatin1(), false, QString() };
-    case LogEntry::Setting: {
-        QString error;
-        switch (rules.apply(command, &error)) {
-        case SettingRules::Accepted:
-            return {};
-        case SettingRules::UnknownParameter:
-            return { UnknownParameter, QByteArray(), false, error };
-        case SettingRules::InvalidValue:
-            return { InvalidValue, QByteArray(), false, error };
-        case SettingRules::Refused:
-            return { Refused, QByteArray(), false, error };
-        }
-        return {};
-    }
-    default:
-        if (!table.contains(command))
-            return { UnknownParameter, QByteArray(), false, QStringLiteral("unknown parameter") };
-        return { 0, table.value(command).toLatin1(), false, QString() };
-    }
-}
 
 int SimulatedController::Private::textExchange(
     LogEntry::Kind kind, const char *operation, const QString &text, char *reply)
 {
-    const Answer answer = exchange(kind, text);
+    const CommandDispatcher::Answer answer = dispatcher.answer(kind, text);
     QByteArray written;
     if (answer.result == 0)
-        written = writeReply(reply, answer.reply, answer.unterminated);
+        written = HostChannel::writeReply(reply, answer.reply, answer.unterminated);
     else if (reply)
         reply[0] = '\0';
     LogEntry entry;
@@ -207,15 +102,15 @@ template<typename T, typename Parse, typename Show>
 int SimulatedController::Private::typedExchange(
     const char *operation, const QString &text, T *value, Parse parse, Show show)
 {
-    Answer answer = exchange(LogEntry::Query, text);
+    CommandDispatcher::Answer answer = dispatcher.answer(LogEntry::Query, text);
     LogEntry entry;
     entry.kind = LogEntry::Query;
     entry.operation = QLatin1String(operation);
     entry.text = text;
     if (answer.result == 0) {
         // The channel reads the reply out of its own buffer first.
-        const QString reply
-            = QString::fromLatin1(readable(writeReply(nullptr, answer.reply, answer.unterminated)));
+        const QString reply = QString::fromLatin1(HostChannel::readable(
+            HostChannel::writeReply(nullptr, answer.reply, answer.unterminated)));
         T parsed {};
         if (parse(reply, &parsed)) {
             if (value)
@@ -237,14 +132,10 @@ int SimulatedController::Private::typedExchange(
 void SimulatedController::Private::record(LogEntry entry)
 {
     log.append(entry);
+    if (isCommand(entry))
+        transcript.sent(entry.text);
     // A copy: a listener may clear the log while others still read the entry.
     emit q->logged(entry);
-}
-
-bool SimulatedController::Private::isRegistered(
-    const QString &name, MessageReceiver *receiver) const
-{
-    return receivers.contains({ name, receiver, nullptr, false });
 }
 
 // The two names of a type's count must agree, or the module would see two
@@ -254,7 +145,8 @@ QStringList SimulatedController::Private::checkCounts(
 {
     QStringList errors;
     const QMap<QString, QString> &parameters = scenario.parameters();
-    for (const QString &type : BodyModel::types()) {
+    const QStringList types = BodyModel::types();
+    for (const QString &type : types) {
         const QStringList paths = BodyModel::countPaths(type);
         for (const QString &path : paths) {
             if (!parameters.contains(path))
@@ -308,8 +200,9 @@ QStringList SimulatedController::builtInScenarios()
     initSimulatorResources();
     QStringList scenarios;
     const QDir folder(QStringLiteral(":/scenarios"));
-    for (const QString &name :
-        folder.entryList({ QStringLiteral("*.scn") }, QDir::Files, QDir::Name))
+    const QStringList names
+        = folder.entryList({ QStringLiteral("*.scn") }, QDir::Files, QDir::Name);
+    for (const QString &name : names)
         scenarios << folder.filePath(name);
     return scenarios;
 }
@@ -389,18 +282,22 @@ const QList<SimulatedController::LogEntry> &SimulatedController::log() const
 QStringList SimulatedController::commands() const
 {
     QStringList texts;
-    for (const LogEntry &entry : d->log) {
-        if (entry.kind == LogEntry::Command || entry.kind == LogEntry::Query
-            || entry.kind == LogEntry::Setting)
+    for (const LogEntry &entry : std::as_const(d->log)) {
+        if (Private::isCommand(entry))
             texts << entry.text;
     }
     return texts;
 }
 
+QString SimulatedController::commandsAsCode() const
+{
+    return TranscriptCheck::asCode(commands());
+}
+
 QStringList SimulatedController::messages() const
 {
     QStringList texts;
-    for (const LogEntry &entry : d->log) {
+    for (const LogEntry &entry : std::as_const(d->log)) {
         if (entry.kind == LogEntry::Message && entry.operation == QLatin1String("sendMessage"))
             texts << entry.text;
     }
@@ -410,7 +307,7 @@ QStringList SimulatedController::messages() const
 QStringList SimulatedController::reports() const
 {
     QStringList texts;
-    for (const LogEntry &entry : d->log) {
+    for (const LogEntry &entry : std::as_const(d->log)) {
         if (entry.kind == LogEntry::Message && entry.operation == QLatin1String("sendMessage")
             && entry.receiver == QLatin1String("standard"))
             texts << entry.text;
@@ -421,6 +318,21 @@ QStringList SimulatedController::reports() const
 void SimulatedController::clearLog()
 {
     d->log.clear();
+}
+
+void SimulatedController::expectTranscript(const QStringList &commands)
+{
+    d->transcript.expect(commands);
+}
+
+QString SimulatedController::transcriptMismatch() const
+{
+    return d->transcript.mismatch();
+}
+
+void SimulatedController::endTranscript()
+{
+    d->transcript.end();
 }
 
 void SimulatedController::failCommand(const QString &pattern, int result, int times)
@@ -450,7 +362,7 @@ void SimulatedController::replaceReply(
 
 void SimulatedController::setLatency(int milliseconds)
 {
-    d->latency = qMax(0, milliseconds);
+    d->dispatcher.setLatency(milliseconds);
 }
 
 void SimulatedController::clearInjections()
@@ -488,7 +400,7 @@ int SimulatedController::sendCommand(char *reply, const char *format, ...)
 {
     va_list args;
     va_start(args, format);
-    const QString text = formatText(format, args);
+    const QString text = HostChannel::format(format, args);
     va_end(args);
     return d->textExchange(LogEntry::Command, "sendCommand", text, reply);
 }
@@ -497,7 +409,7 @@ int SimulatedController::getString(char *reply, const char *format, ...)
 {
     va_list args;
     va_start(args, format);
-    const QString text = formatText(format, args);
+    const QString text = HostChannel::format(format, args);
     va_end(args);
     return d->textExchange(LogEntry::Query, "getString", text, reply);
 }
@@ -506,7 +418,7 @@ int SimulatedController::getInt(qint32 *value, const char *format, ...)
 {
     va_list args;
     va_start(args, format);
-    const QString text = formatText(format, args);
+    const QString text = HostChannel::format(format, args);
     va_end(args);
     return d->typedExchange("getInt", text, value, ParameterTable::toInt,
         [](qint32 number) { return QString::number(number); });
@@ -516,7 +428,7 @@ int SimulatedController::getDouble(double *value, const char *format, ...)
 {
     va_list args;
     va_start(args, format);
-    const QString text = formatText(format, args);
+    const QString text = HostChannel::format(format, args);
     va_end(args);
     return d->typedExchange("getDouble", text, value, ParameterTable::toDouble,
         [](double number) { return QString::number(number); });
@@ -526,7 +438,7 @@ int SimulatedController::getBool(bool *value, const char *format, ...)
 {
     va_list args;
     va_start(args, format);
-    const QString text = formatText(format, args);
+    const QString text = HostChannel::format(format, args);
     va_end(args);
     return d->typedExchange("getBool", text, value, ParameterTable::toBool,
         [](bool flag) { return flag ? QStringLiteral("true") : QStringLiteral("false"); });
@@ -536,7 +448,7 @@ int SimulatedController::setParameter(const char *format, ...)
 {
     va_list args;
     va_start(args, format);
-    const QString text = formatText(format, args);
+    const QString text = HostChannel::format(format, args);
     va_end(args);
     return d->textExchange(LogEntry::Setting, "setParameter", text, nullptr);
 }
@@ -544,28 +456,15 @@ int SimulatedController::setParameter(const char *format, ...)
 void SimulatedController::sendMessage(
     const char *receiver, const char *sender, int level, const char *text)
 {
-    const QString name = QString::fromLatin1(receiver);
     LogEntry entry;
     entry.kind = LogEntry::Message;
     entry.operation = QStringLiteral("sendMessage");
     entry.text = QString::fromLatin1(text);
-    entry.receiver = name;
+    entry.receiver = QString::fromLatin1(receiver);
     entry.sender = QString::fromLatin1(sender);
     entry.level = level;
     d->record(entry);
-
-    // A receiver may leave (or make another leave) while it is being
-    // called; only those still registered get the message.
-    const QList<Private::Registration> receivers = d->receivers;
-    for (const Private::Registration &registration : receivers) {
-        if (registration.name != name || !d->isRegistered(name, registration.receiver))
-            continue;
-        if (registration.isObject && !registration.object)
-            qFatal("Message \"%s\" to \"%s\" for a receiver that was destroyed while "
-                   "registered",
-                text ? text : "", receiver);
-        registration.receiver->receiveMessage(receiver, sender, text);
-    }
+    d->receivers.deliver(receiver, sender, text);
 }
 
 void SimulatedController::registerReceiver(const char *name, MessageReceiver *receiver)
@@ -576,10 +475,7 @@ void SimulatedController::registerReceiver(const char *name, MessageReceiver *re
     entry.operation = QStringLiteral("registerReceiver");
     entry.receiver = receiverName;
     d->record(entry);
-    if (receiver && !d->isRegistered(receiverName, receiver)) {
-        QObject *object = dynamic_cast<QObject *>(receiver);
-        d->receivers.append({ receiverName, receiver, object, object != nullptr });
-    }
+    d->receivers.add(receiverName, receiver);
 }
 
 void SimulatedController::unregisterReceiver(const char *name, MessageReceiver *receiver)
@@ -590,7 +486,7 @@ void SimulatedController::unregisterReceiver(const char *name, MessageReceiver *
     entry.operation = QStringLiteral("unregisterReceiver");
     entry.receiver = receiverName;
     d->record(entry);
-    d->receivers.removeAll({ receiverName, receiver, nullptr, false });
+    d->receivers.remove(receiverName, receiver);
 }
 
 bool SimulatedController::takeScenarioLine(const QString &line, QString *error)

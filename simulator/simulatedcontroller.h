@@ -79,9 +79,24 @@ public:
     // What was exchanged, in order.
     const QList<LogEntry> &log() const;
     QStringList commands() const; // texts of every command and query, in order
+    // commands() as C++ string literals, one a line: run a flow once and
+    // paste this as its expected transcript.
+    QString commandsAsCode() const;
     QStringList messages() const; // texts of every sendMessage, in order
     QStringList reports() const; // texts sent to the message log ("standard")
     void clearLog();
+
+    // Strict mode: from now on every command and query (the texts commands()
+    // lists) must be the next of these lines; a line ending in '*' matches
+    // any command that begins with the rest. Commands are still answered as
+    // usual, so a flow runs on past a difference. clearLog() leaves the
+    // comparison alone; a new expectation starts it over.
+    void expectTranscript(const QStringList &commands);
+    // Empty while everything sent matches and nothing expected is missing;
+    // otherwise names the first difference, with the commands around it.
+    QString transcriptMismatch() const;
+    // Leaves strict mode and forgets the expectation.
+    void endTranscript();
 
     // Fault injection. A pattern is an exact command text, or a prefix when it
     // ends with '*'. times < 0 means for every matching command.

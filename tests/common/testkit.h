@@ -86,4 +86,13 @@ inline void closeAllAndCheck()
 
 } // namespace testkit
 
+// Fails the test unless the controller received exactly the transcript the
+// test expects (SimulatedController::expectTranscript); names the first
+// difference.
+#define QCOMPARE_TRANSCRIPT(controller)                                                            \
+    do {                                                                                           \
+        const QString transcriptMismatch_ = (controller).transcriptMismatch();                     \
+        QVERIFY2(transcriptMismatch_.isEmpty(), qPrintable(transcriptMismatch_));                  \
+    } while (false)
+
 #endif // TRACKING_TESTKIT_H

@@ -78,6 +78,39 @@ private slots:
         QCOMPARE(controller.log().last().kind, Sim::LogEntry::Setting);
         QCOMPARE(controller.commands().size(), 7);
     }
+    // Strict mode starts where it is asked for, ignores messages, still
+    // answers every command and names the first difference.
+    void strictTranscript_data()
+    {
+        testkit::columns<QStringList, QString>({ "expected", "mismatch" });
+        // clang-format off
+        const QStringList sent { "status active", "tracking auto_restart no", "velora2 cal targetlib stop" };
+        const QString around = "\nsent:\n     1  status active\n %1   2  tracking auto_restart no\n     3  velora2 cal targetlib stop";
+        QTest::newRow("exact") << sent << "";
+        QTest::newRow("prefix line") << QStringList { sent[0], "tracking auto*", sent[2] } << "";
+        QTest::newRow("unexpected") << QStringList { sent[0], "tracking auto_restart yes", sent[2] }
+            << "command 2: expected \"tracking auto_restart yes\", sent \"tracking auto_restart no\"" + around.arg('>');
+        QTest::newRow("missing") << sent + QStringList { "status progress", "status active" }
+            << "missing after command 3: \"status progress\" and 1 more" + around.arg(' ');
+        QTest::newRow("after the end") << QStringList { sent[0] }
+            << "unexpected after the end: \"tracking auto_restart no\"" + around.arg('>');
+        // clang-format on
+    }
+    void strictTranscript()
+    {
+        QFETCH(QStringList, expected);
+        QFETCH(QString, mismatch);
+        Sim controller;
+        ask(controller, "config is_changeable");
+        controller.expectTranscript(expected);
+        QCOMPARE(ask(controller, "status active"), QString("none"));
+        controller.sendMessage("standard", "VELORA4", 1, "Error: not a command");
+        QCOMPARE(controller.setParameter("tracking auto_restart %s", "no"), 0);
+        ask(controller, "velora2 cal targetlib stop");
+        QCOMPARE(controller.transcriptMismatch(), mismatch);
+        controller.endTranscript();
+        QCOMPARE_TRANSCRIPT(controller);
+    }
     void replyNeverOverrunsBuffer_data()
     {
         testkit::columns<QByteArray, bool, QByteArray>({ "reply", "unterminated", "expected" });
