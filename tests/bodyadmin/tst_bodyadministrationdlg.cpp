@@ -184,6 +184,102 @@ private slots:
         QCOMPARE(calibration, QList<bool>({ false, true }));
         QCOMPARE(f.controller->messages().at(1), QString("OpenBodyCalDialog standard b01"));
     }
+
+    // The Parts' own flows, command by command, on three standard bodies:
+    // nothing read from memory, nothing read back, nothing refreshed that
+    // the flow does not refresh.
+    void transcripts_data()
+    {
+        columns<QString, QStringList>({ "flow", "transcript" });
+        // Loading one body: its fields, then the reference, asked each time.
+        const auto load = [](int first, int last) {
+            QStringList reads;
+            for (int n = first; n <= last; ++n) {
+                for (const char *field : { "desc", "targetlib_name", "active", "calibrated",
+                         "recalibrated", "inertial_sensor", "filter6d_enabled" })
+                    reads << QString("body %1 standard b0%2").arg(field).arg(n);
+                reads << "tracking reference";
+            }
+            return reads;
+        };
+        const QStringList tableFill = L("inertial available | inertial warmup");
+        const QStringList refresh = L("body number_of_bodies standard | standard "
+                                      "max_number_of_bodies")
+            + load(1, 3) + tableFill;
+        row("open, Exit", QString("open"),
+            L("config is_changeable | gripwand multiuser_available | status active | velora2 "
+              "targetlib check_custom_calibration")
+                + refresh + L("inertial available | status active"));
+        row("locked before opening, Exit while a calibration runs, then again", QString("locked"),
+            L("config is_changeable | gripwand multiuser_available | status active") + refresh
+                + L("inertial available | status active | status active"));
+        row("count 3 -> 5", QString("count"),
+            L("standard number_of_bodies 5 | standard max_number_of_bodies") + load(4, 5)
+                + tableFill);
+        row("rename", QString("rename"), QStringList { "body desc standard b03 \"Tool\"" });
+        row("refused activation", QString("refused"), L("body active standard b01 no"));
+        row("click beside the box", QString("beside"), L("body active standard b02 yes"));
+        row("lock during a search", QString("search"),
+            L("cal available targetlib | status active | velora2 cal targetlib start | config "
+              "is_changeable"));
+    }
+    void transcripts()
+    {
+        const QString flow = fetch<QString>("flow");
+        QFile scenario(QFINDTESTDATA("threebodies.scn"));
+        QVERIFY(scenario.open(QIODevice::ReadOnly));
+        QVERIFY(f.controller->loadScenarioText(QString::fromUtf8(scenario.readAll()), "three"));
+        if (flow == "open" || flow == "locked") {
+            f.build();
+            const bool locked = flow == "locked";
+            f.controller->setValue("config is_changeable", locked ? "no" : "yes");
+            f.controller->setValue("status active", locked ? "cal targetlib" : "none");
+            f.controller->expectTranscript(fetch<QStringList>("transcript"));
+            f.driver->answer([this, locked](QWidget *dialog) {
+                f.clickButton("pushButton_exit");
+                f.controller->setValue("status active", "none");
+                if (locked && dialog->isVisible())
+                    f.clickButton("pushButton_exit");
+            });
+            f.dialog->update_and_exec();
+            QCOMPARE_TRANSCRIPT(*f.controller);
+            QCOMPARE(f.dialog->windowIcon().isNull(), !locked);
+            return;
+        }
+        f.open();
+        f.controller->expectTranscript(fetch<QStringList>("transcript"));
+        if (flow == "count") {
+            auto *spinBox = f.widget<QSpinBox>("spinBox_standard_bodies");
+            spinBox->setFocus();
+            spinBox->selectAll();
+            QTest::keyClicks(spinBox, "5");
+            QTest::keyClick(spinBox, Qt::Key_Return);
+            QCOMPARE(spinBox->value(), 5);
+            QCOMPARE(f.table()->rowCount(), 5);
+        } else if (flow == "rename") {
+            BodyAdminFixture::go(f.table(), 2, 0, Qt::Key_F2);
+            QTest::keyClicks(QApplication::focusWidget(), "Tool");
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            QApplication::processEvents(); // the editor commits queued
+        } else if (flow == "refused") {
+            f.controller->failCommand("body active standard b01 no");
+            BodyAdminFixture::click(f.table(), 0, 1);
+            // The operator's choice stays on screen; the report tells the rest.
+            QCOMPARE(f.table()->item(0, 1)->checkState(), Qt::Unchecked);
+        } else if (flow == "beside") {
+            const QRect cell = f.table()->visualItemRect(f.table()->item(1, 1));
+            QTest::mouseClick(f.table()->viewport(), Qt::LeftButton, {},
+                QPoint(cell.right() - 2, cell.center().y()));
+            QCOMPARE(f.table()->item(1, 1)->checkState(), Qt::Checked);
+        } else {
+            f.clickButton("pushButton_start");
+            f.controller->setValue("config is_changeable", "no");
+            f.controller->sendMessage(
+                "GlobalEvent", "ConfigurationModule", 1, "ActiveConfigurationChanged");
+            QVERIFY(f.enabled("pushButton_stop"));
+        }
+        QCOMPARE_TRANSCRIPT(*f.controller);
+    }
 };
 
 QTEST_MAIN(TestBodyAdministrationDlg)
