@@ -137,7 +137,8 @@ private slots:
     }
     void parsesOptions_data()
     {
-        // parsed: backend/system version/plug-in, "-" when not given
+        // parsed: backend/system version/plug-in, "-" when not given; else
+        // what the message says
         testkit::columns<QStringList, int, QString>({ "arguments", "outcome", "parsed" });
 
         const int run = DemoOptions::Run, error = DemoOptions::Error;
@@ -147,8 +148,14 @@ private slots:
         QTest::newRow("both versions, built-in scenario") << QStringList { "--backend-version=2.0.0", "--system-version", "2.10.0", "--scenario", "locked" } << run << "2.0.0/2.10.0/";
         QTest::newRow("two-part version") << QStringList { "--backend-version", "1.9" } << error << "";
         QTest::newRow("missing scenario") << QStringList { "--scenario", "no-such.scn" } << error << "";
-        QTest::newRow("unknown option") << QStringList { "--screenshot", "x.png" } << error << "";
-        QTest::newRow("help") << QStringList { "--help" } << int(DemoOptions::ShowHelp) << "";
+        QTest::newRow("unknown option") << QStringList { "--screenshot", "x.png" } << error << "Unknown option 'screenshot'.";
+        QTest::newRow("misspelt option") << QStringList { "--scenaro", "locked" } << error << "Did you mean --scenario?";
+        QTest::newRow("shortened option") << QStringList { "--lang", "de" } << error << "Did you mean --language?";
+        QTest::newRow("save folder missing") << QStringList { "--save-scenario", "/no/such/x.scn" } << error << "/no/such/x.scn cannot be written";
+        QTest::newRow("Qt's own options") << QStringList { "-platform", "offscreen", "-style=fusion", "-reverse" } << run << "-/-/";
+        QTest::newRow("help") << QStringList { "--help" } << int(DemoOptions::ShowHelp) << "--save-scenario <file>";
+        QTest::newRow("help with Qt's options") << QStringList { "--help-all" } << int(DemoOptions::ShowHelp) << "--platform <name[:options]>";
+        QTest::newRow("scenarios to pass back") << QStringList { "--list-scenarios" } << int(DemoOptions::ListScenarios) << "failures";
         // clang-format on
     }
     void parsesOptions()
@@ -169,16 +176,26 @@ private slots:
         DemoOptions options;
         QString message;
         QCOMPARE(int(DemoOptions::parse(all, &options, &message)), outcome);
-        QVERIFY(outcome != DemoOptions::ShowHelp || message.contains("--save-scenario"));
+        if (outcome == DemoOptions::ListScenarios) {
+            message = DemoOptions::scenarioList().join('\n');
+            for (const QString &line : message.split('\n'))
+                QVERIFY(!DemoOptions::scenarioFile(line.section('\t', 0, 0)).isEmpty());
+        }
         QCOMPARE(message.isEmpty(), outcome == DemoOptions::Run);
+        QVERIFY2(!message.contains("this build")
+                && message.contains("--platform") == arguments.contains("--help-all"),
+            qPrintable(message));
         const auto text = [](bool given, const BackendVersions::Version &v) {
             return given ? DemoOptions::versionText(v) : QStringLiteral("-");
         };
+        QFETCH(QString, parsed);
         if (outcome == DemoOptions::Run)
-            QTEST(text(options.hasBackendVersion, options.backendVersion) + '/'
+            QCOMPARE(text(options.hasBackendVersion, options.backendVersion) + '/'
                     + text(options.hasSystemVersion, options.systemVersion) + '/'
                     + options.pluginPath,
-                "parsed");
+                parsed);
+        else
+            QVERIFY2(message.contains(parsed), qPrintable(message));
     }
     void rendersEveryDialogWithoutAcceleratorClash_data()
     {
