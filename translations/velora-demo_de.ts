@@ -340,6 +340,14 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <source>Scenarios (*.scn)</source>
         <translation>Szenarien (*.scn)</translation>
     </message>
+    <message>
+        <source>configuration locked</source>
+        <translation>Konfiguration gesperrt</translation>
+    </message>
+    <message>
+        <source>The latest error report; click to see it in the controller log</source>
+        <translation>Die letzte Fehlermeldung; ein Klick zeigt sie im Controller-Protokoll</translation>
+    </message>
 </context>
 <context>
     <name>DialogRenderer</name>
@@ -413,6 +421,14 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
     <message>
         <source>%1 of %2 entries</source>
         <translation>%1 von %2 Einträgen</translation>
+    </message>
+    <message>
+        <source>Hide &amp;polling</source>
+        <translation>&amp;Abfragen ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide the reads the module repeats on a timer (status active, status step_active, status progress, target_status_tracked) while they succeed</source>
+        <translation>Die Abfragen ausblenden, die das Modul im Takt wiederholt (status active, status step_active, status progress, target_status_tracked), solange sie gelingen</translation>
     </message>
 </context>
 <context>

@@ -300,6 +300,7 @@ private slots:
         LogFilter filter;
         filter.setSourceModel(&model);
         filter.setShow(LogFilter::Show(show));
+        filter.setHidePolling(false);
         filter.setFilterFixedString(text);
         QTEST(texts(filter), "shown");
     }
@@ -327,6 +328,46 @@ private slots:
         });
         window.moduleActions().at(1)->trigger(); // body administration
         QCOMPARE(currentRow, clicked);
+        window.close();
+    }
+    // What the operator must see without opening the log: the scenario's
+    // purpose, the latest error report (its row marked, a click away) and the
+    // lock while it holds; the module's polling stays out of the way.
+    void statusBarShowsWhatHappened()
+    {
+        DemoOptions options;
+        options.scenario = "failures";
+        DemoWindow window(options);
+        window.show();
+        QVERIFY(window.findChild<QLabel *>("scenarioNote")->text().startsWith("Failures on"));
+        auto *report = window.findChild<QToolButton *>("latestReport");
+        auto *locked = window.findChild<QLabel *>("configurationLocked");
+        QVERIFY(!report->isVisible() && !locked->isVisible());
+        ModalDriver driver;
+        driver.answer([](QWidget *modal) {
+            QTest::keyClick(modal->findChild<QSpinBox *>("spinBox_standard_bodies"), Qt::Key_Up);
+            static_cast<QDialog *>(modal)->reject();
+        });
+        window.moduleActions().at(1)->trigger(); // body administration
+        QVERIFY(report->isVisible());
+        QCOMPARE(
+            report->text().section(' ', 1), "Error: Unable to set number of standard bodies to 5");
+        const QModelIndex marked = window.logModel()->latestReport();
+        QVERIFY(marked.data(Qt::FontRole).value<QFont>().bold());
+        QTest::mouseClick(report, Qt::LeftButton);
+        QTableView *view = window.logWindow()->view();
+        QCOMPARE(
+            window.logWindow()->filter()->mapToSource(view->currentIndex()).row(), marked.row());
+
+        const auto polls = [view] { return texts(*view->model()).count("status active"); };
+        QCOMPARE(polls(), 0);
+        QTest::mouseClick(window.logWindow()->hidePolling(), Qt::LeftButton);
+        QVERIFY(polls() > 0);
+        for (const char *line : { "config is_changeable = no", "config is_changeable = yes" }) {
+            QTest::keyClicks(window.logWindow()->console(), line);
+            QTest::keyClick(window.logWindow()->console(), Qt::Key_Return);
+            QCOMPARE(locked->isVisible(), QByteArray(line).endsWith("no"));
+        }
         window.close();
     }
     // What the console gives the controller is in the scenario it saves, which
