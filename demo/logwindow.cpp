@@ -73,7 +73,8 @@ LogWindow::LogWindow(SimulatorLogModel *model, QWidget *parent)
     m_console->setPlaceholderText(
         tr("a scenario line: config is_changeable = no, @fail status step_active, ..."));
     m_console->setToolTip(tr("The simulated controller takes the line as if it stood in its "
-                             "scenario. Up and Down recall earlier lines."));
+                             "scenario; @unfail * lifts every @fail. Up and Down recall earlier "
+                             "lines."));
     connect(m_console, &ConsoleLine::lineEntered, this, &LogWindow::lineEntered);
 
     auto *save = new QPushButton(tr("Sa&ve log..."));

@@ -387,10 +387,6 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>eine Szenariozeile: config is_changeable = no, @fail status step_active, ...</translation>
     </message>
     <message>
-        <source>The simulated controller takes the line as if it stood in its scenario. Up and Down recall earlier lines.</source>
-        <translation>Der simulierte Controller übernimmt die Zeile, als stünde sie in seinem Szenario. Pfeil hoch und runter holen frühere Zeilen zurück.</translation>
-    </message>
-    <message>
         <source>Sa&amp;ve log...</source>
         <translation>Protokoll &amp;speichern...</translation>
     </message>
@@ -429,6 +425,10 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
     <message>
         <source>Hide the reads the module repeats on a timer (status active, status step_active, status progress, target_status_tracked) while they succeed</source>
         <translation>Die Abfragen ausblenden, die das Modul im Takt wiederholt (status active, status step_active, status progress, target_status_tracked), solange sie gelingen</translation>
+    </message>
+    <message>
+        <source>The simulated controller takes the line as if it stood in its scenario; @unfail * lifts every @fail. Up and Down recall earlier lines.</source>
+        <translation>Der simulierte Controller übernimmt die Zeile, als stünde sie in seinem Szenario; @unfail * hebt jedes @fail auf. Pfeil hoch und runter holen frühere Zeilen zurück.</translation>
     </message>
 </context>
 <context>

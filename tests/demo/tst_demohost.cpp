@@ -378,8 +378,9 @@ private slots:
         options.scenario = "orbilux";
         DemoWindow window(options);
         ConsoleLine *console = window.logWindow()->console();
-        const QStringList lines { "config is_changeable = no", "@backend-version 1.x",
-            "@fail status step_active", "@reply status progress = 0.5", "@present t02 t05",
+        const QStringList lines { "@fail status active", "@unfail status*",
+            "config is_changeable = no", "@backend-version 1.x", "@fail status step_active",
+            "@reply status progress = 0.5", "@present t02 t05",
             "body desc standard b01 = \"Tool = 1\"" };
         for (const QString &line : lines) {
             QTest::keyClicks(console, line);
@@ -398,6 +399,7 @@ private slots:
         QCOMPARE(reloaded.value("config is_changeable"), QStringLiteral("no"));
         char reply[200] = {};
         QCOMPARE(reloaded.getString(reply, "status step_active"), 1);
+        QCOMPARE(reloaded.getString(reply, "status active"), 0);
         QCOMPARE(reloaded.getString(reply, "status progress"), 0);
         QCOMPARE(QByteArray(reply), QByteArray("0.5"));
     }
