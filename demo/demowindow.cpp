@@ -278,8 +278,10 @@ void DemoWindow::showReport(const QString &text, const QModelIndex &index)
 {
     m_reportIndex = index;
     const QString line = QTime::currentTime().toString(QStringLiteral("HH:mm:ss ")) + text;
-    m_report->setText(m_report->fontMetrics().elidedText(
-        line, Qt::ElideRight, 90 * fontMetrics().averageCharWidth()));
+    // A button takes '&' for a shortcut letter.
+    m_report->setText(m_report->fontMetrics()
+                          .elidedText(line, Qt::ElideRight, 90 * fontMetrics().averageCharWidth())
+                          .replace(QLatin1Char('&'), QLatin1String("&&")));
     m_report->show();
 }
 
