@@ -21,6 +21,75 @@
 #ifndef TRACKING_INSTALLED_TRANSLATIONS
 #define TRACKING_INSTALLED_TRANSLATIONS ""
 #endif
+#ifndef TRACKING_INSTALLED_SCENARIOS
+#define TRACKING_INSTALLED_SCENARIOS ""
+#endif
+
+namespace
+{
+
+// Qt's own options, which QApplication takes off the command line later:
+// accepted here so that they get that far, and listed by --help-all.
+const struct {
+    const char *name;
+    const char *valueName; // null: a switch
+    const char *description;
+} QtOptions[] = {
+    { "platform", QT_TRANSLATE_NOOP("DemoOptions", "name[:options]"),
+        QT_TRANSLATE_NOOP("DemoOptions", "Qt's platform plug-in: xcb, wayland, offscreen, ...") },
+    { "platformpluginpath", QT_TRANSLATE_NOOP("DemoOptions", "path"),
+        QT_TRANSLATE_NOOP("DemoOptions", "Folder of the platform plug-ins.") },
+    { "platformtheme", QT_TRANSLATE_NOOP("DemoOptions", "theme"),
+        QT_TRANSLATE_NOOP("DemoOptions", "Platform theme.") },
+    { "style", QT_TRANSLATE_NOOP("DemoOptions", "style"),
+        QT_TRANSLATE_NOOP("DemoOptions", "Widget style: Fusion, Windows, ...") },
+    { "stylesheet", QT_TRANSLATE_NOOP("DemoOptions", "file"),
+        QT_TRANSLATE_NOOP("DemoOptions", "Style sheet for every widget.") },
+    { "reverse", nullptr, QT_TRANSLATE_NOOP("DemoOptions", "Lay out from right to left.") },
+    { "qwindowgeometry", QT_TRANSLATE_NOOP("DemoOptions", "geometry"),
+        QT_TRANSLATE_NOOP("DemoOptions", "Geometry of the first window, as in 800x600+50+50.") },
+    { "qwindowtitle", QT_TRANSLATE_NOOP("DemoOptions", "title"),
+        QT_TRANSLATE_NOOP("DemoOptions", "Title of the first window.") },
+    { "display", QT_TRANSLATE_NOOP("DemoOptions", "display"),
+        QT_TRANSLATE_NOOP("DemoOptions", "X11 display to use.") },
+    { "widgetcount", nullptr,
+        QT_TRANSLATE_NOOP("DemoOptions", "Print the number of widgets left at exit.") },
+};
+
+// Edits that turn one word into the other.
+int distance(const QString &a, const QString &b)
+{
+    QVector<int> row(b.size() + 1);
+    for (int j = 0; j <= b.size(); ++j)
+        row[j] = j;
+    for (int i = 1; i <= a.size(); ++i) {
+        int diagonal = row[0];
+        row[0] = i;
+        for (int j = 1; j <= b.size(); ++j) {
+            const int above = row[j];
+            row[j] = qMin(qMin(row[j] + 1, row[j - 1] + 1), diagonal + (a[i - 1] != b[j - 1]));
+            diagonal = above;
+        }
+    }
+    return row[b.size()];
+}
+
+// The option a misspelt or shortened name most likely meant; empty when none is close.
+QString nearest(const QString &unknown, const QStringList &names)
+{
+    QString best;
+    int bestDistance = 3;
+    for (const QString &name : names) {
+        const int d = unknown.size() >= 3 && name.startsWith(unknown) ? 1 : distance(unknown, name);
+        if (d < bestDistance) {
+            best = name;
+            bestDistance = d;
+        }
+    }
+    return best;
+}
+
+} // namespace
 
 DemoOptions::Outcome DemoOptions::parse(
     const QStringList &arguments, DemoOptions *options, QString *message)
@@ -35,9 +104,7 @@ DemoOptions::Outcome DemoOptions::parse(
     const QCommandLineOption helpOption = parser.addHelpOption();
     const QCommandLineOption versionOption = parser.addVersionOption();
     const QCommandLineOption pluginOption("plugin",
-        tr("Load the plug-in from <path> instead of the one this build made (%1).")
-            .arg(defaultPluginPath()),
-        tr("path"));
+        tr("Load the plug-in from <path> instead of %1.").arg(defaultPluginPath()), tr("path"));
     const QCommandLineOption scenarioOption("scenario",
         tr("Start the controller from <file>, or from the built-in scenario of that "
            "name (see --list-scenarios)."),
@@ -65,19 +132,36 @@ DemoOptions::Outcome DemoOptions::parse(
     const QCommandLineOption languageOption("language",
         tr("Show the module in <language> (for example de), as a host in that language would."),
         tr("language"));
-    parser.addOptions({ pluginOption, scenarioOption, listOption, backendOption, systemTypeOption,
-        systemVersionOption, observerOption, renderOption, checkOption, logOption,
-        saveScenarioOption, languageOption });
+    const QList<QCommandLineOption> ours { pluginOption, scenarioOption, listOption, backendOption,
+        systemTypeOption, systemVersionOption, observerOption, renderOption, checkOption, logOption,
+        saveScenarioOption, languageOption };
+    parser.addOptions(ours);
+    const bool helpAll = arguments.contains(QLatin1String("--help-all"))
+        || arguments.contains(QLatin1String("-help-all"));
+    for (const auto &qt : QtOptions) {
+        QCommandLineOption option(QLatin1String(qt.name), tr(qt.description),
+            qt.valueName ? tr(qt.valueName) : QString());
+        if (!helpAll)
+            option.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(option);
+    }
 
     if (!parser.parse(arguments)) {
         *message = parser.errorText();
+        QStringList names { QStringLiteral("help"), QStringLiteral("help-all"),
+            QStringLiteral("version") };
+        for (const QCommandLineOption &option : ours)
+            names += option.names();
+        const QString meant = nearest(parser.unknownOptionNames().value(0), names);
+        if (!meant.isEmpty())
+            *message += QLatin1Char(' ') + tr("Did you mean --%1?").arg(meant);
         return Error;
     }
     if (!parser.positionalArguments().isEmpty()) {
         *message = tr("Unexpected argument: %1").arg(parser.positionalArguments().first());
         return Error;
     }
-    if (parser.isSet(helpOption)) {
+    if (parser.isSet(helpOption) || helpAll) {
         *message = parser.helpText();
         return ShowHelp;
     }
@@ -101,6 +185,18 @@ DemoOptions::Outcome DemoOptions::parse(
     options->renderFolder = parser.value(renderOption);
     options->logFile = parser.value(logOption);
     options->saveScenarioFile = parser.value(saveScenarioOption);
+    // Found out now rather than after a session whose state would be lost.
+    if (!options->saveScenarioFile.isEmpty()) {
+        const QFileInfo file(options->saveScenarioFile);
+        const QFileInfo folder(file.absolutePath());
+        if (!folder.isDir() || !folder.isWritable() || file.isDir()
+            || (file.exists() && !file.isWritable())) {
+            *message = tr("--save-scenario: %1 cannot be written (is its folder there and "
+                          "writable?)")
+                           .arg(options->saveScenarioFile);
+            return Error;
+        }
+    }
     options->language = parser.value(languageOption);
 
     const struct {
@@ -200,6 +296,19 @@ QStringList DemoOptions::installTranslations(const QString &language, QObject *o
             missing << QDir(file.second).filePath(file.first + language);
     }
     return missing;
+}
+
+QStringList DemoOptions::scenarioList()
+{
+    const QString installed = installedOrBuilt(TRACKING_INSTALLED_SCENARIOS, "");
+    QStringList lines;
+    for (const QString &file : sim::SimulatedController::builtInScenarios()) {
+        const QString name = QFileInfo(file).completeBaseName();
+        const QString copy = QDir(installed).filePath(QFileInfo(file).fileName());
+        lines << (!installed.isEmpty() && QFileInfo(copy).isFile() ? name + QLatin1Char('\t') + copy
+                                                                   : name);
+    }
+    return lines;
 }
 
 QString DemoOptions::scenarioFile(const QString &scenario)

@@ -39,6 +39,9 @@ public:
     // buttons follow); the translators are children of owner. Returns the
     // files that were not found.
     static QStringList installTranslations(const QString &language, QObject *owner);
+    // One line a built-in scenario: its name, and the file installed with the
+    // demo host where there is one; either goes back to --scenario.
+    static QStringList scenarioList();
     // The file for a --scenario value: a file, or the name of a built-in one;
     // empty when it is neither.
     static QString scenarioFile(const QString &scenario);

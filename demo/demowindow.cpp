@@ -24,7 +24,10 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QSaveFile>
+#include <QStatusBar>
 #include <QTextStream>
+#include <QTime>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <limits>
@@ -35,6 +38,9 @@ DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
     , m_logModel(new SimulatorLogModel(50000, this))
     , m_logWindow(new LogWindow(m_logModel))
     , m_standIns(new StandInModules(m_controller, this, this))
+    , m_note(new QLabel)
+    , m_locked(new QLabel(tr("configuration locked")))
+    , m_report(new QToolButton)
 {
     setObjectName(QStringLiteral("demo-host"));
     setWindowTitle(tr("Velora demo host"));
@@ -55,6 +61,7 @@ DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
     connect(m_logWindow, &LogWindow::clearRequested, this, [this] {
         m_controller->clearLog();
         m_logModel->clear();
+        m_report->hide();
     });
     connect(m_logWindow, &LogWindow::saveRequested, this, &DemoWindow::saveLogAs);
     connect(m_logWindow, &LogWindow::lineEntered, this, &DemoWindow::takeLine);
@@ -63,6 +70,22 @@ DemoWindow::DemoWindow(const DemoOptions &options, QWidget *parent)
     loadModule(options.pluginPath, options.observer);
     buildMenus();
     setCentralWidget(createCentralPage(options.observer));
+
+    // What the operator must not miss without opening the log.
+    m_report->setObjectName(QStringLiteral("latestReport"));
+    m_report->setAutoRaise(true);
+    m_report->setStyleSheet(QStringLiteral("color: #c80000"));
+    m_report->setToolTip(tr("The latest error report; click to see it in the controller log"));
+    m_report->hide();
+    connect(
+        m_report, &QToolButton::clicked, this, [this] { m_logWindow->showEntry(m_reportIndex); });
+    connect(m_logModel, &SimulatorLogModel::errorReported, this, &DemoWindow::showReport);
+    m_locked->setObjectName(QStringLiteral("configurationLocked"));
+    m_locked->setStyleSheet(QStringLiteral("font-weight: bold"));
+    statusBar()->addWidget(m_report, 1);
+    statusBar()->addPermanentWidget(m_locked);
+    connect(m_controller, &sim::SimulatedController::logged, this, &DemoWindow::updateStatus);
+    updateStatus();
     // The other modules announce themselves once the module can hear them.
     if (module())
         m_standIns->announce();
@@ -178,6 +201,11 @@ QWidget *DemoWindow::createCentralPage(bool observer)
 {
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
+    m_note->setObjectName(QStringLiteral("scenarioNote"));
+    m_note->setWordWrap(true);
+    m_note->setStyleSheet(QStringLiteral(
+        "background: #fff3c4; color: black; border: 1px solid #d9b300; padding: 4px"));
+    layout->addWidget(m_note);
 
     if (!module()) {
         auto *failure = new QGroupBox(tr("The module plug-in could not be loaded"));
@@ -246,6 +274,25 @@ void DemoWindow::reportProblem(const QString &operation, const QString &text)
     m_logModel->append(entry);
 }
 
+void DemoWindow::showReport(const QString &text, const QModelIndex &index)
+{
+    m_reportIndex = index;
+    const QString line = QTime::currentTime().toString(QStringLiteral("HH:mm:ss ")) + text;
+    // A button takes '&' for a shortcut letter.
+    m_report->setText(m_report->fontMetrics()
+                          .elidedText(line, Qt::ElideRight, 90 * fontMetrics().averageCharWidth())
+                          .replace(QLatin1Char('&'), QLatin1String("&&")));
+    m_report->show();
+}
+
+void DemoWindow::updateStatus()
+{
+    m_locked->setVisible(
+        m_controller->value(QStringLiteral("config is_changeable")) == QLatin1String("no"));
+    m_note->setText(m_controller->scenarioNote());
+    m_note->setVisible(!m_note->text().isEmpty());
+}
+
 void DemoWindow::showAbout()
 {
     const QString moduleText = module()
@@ -267,6 +314,7 @@ void DemoWindow::takeLine(const QString &line)
     entry.text = line;
     entry.result = m_controller->takeScenarioLine(line, &entry.error) ? 0 : 1;
     m_logModel->append(entry);
+    updateStatus();
 }
 
 bool DemoWindow::saveScenario(const QString &fileName, QString *error) const

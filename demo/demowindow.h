@@ -4,11 +4,14 @@
 #include "moduleloader.h"
 
 #include <QMainWindow>
+#include <QPersistentModelIndex>
 #include <QStringList>
 
 class DemoOptions;
 class LogWindow;
 class QAction;
+class QLabel;
+class QToolButton;
 class ModuleInterface;
 namespace sim
 {
@@ -53,6 +56,9 @@ private:
     QWidget *createCentralPage(bool observer);
     void reportProblem(const QString &operation, const QString &text);
     void showAbout();
+    void showReport(const QString &text, const QModelIndex &index);
+    // The lock and the scenario's note follow the controller.
+    void updateStatus();
     void saveLogAs();
     void saveScenarioAs();
 
@@ -64,6 +70,10 @@ private:
     ModuleLoader m_loader;
     QString m_scenarioFile;
     QStringList m_scenarioErrors;
+    QLabel *m_note;
+    QLabel *m_locked;
+    QToolButton *m_report;
+    QPersistentModelIndex m_reportIndex;
 };
 
 #endif // DEMOWINDOW_H

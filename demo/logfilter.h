@@ -15,12 +15,16 @@ public:
     explicit LogFilter(QObject *parent = nullptr);
 
     void setShow(Show show);
+    // Hides the module's successful polling reads; on from the start.
+    void setHidePolling(bool hide);
+    bool hidesPolling() const { return m_hidePolling; }
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
 private:
     Show m_show = All;
+    bool m_hidePolling = true;
 };
 
 #endif // LOGFILTER_H

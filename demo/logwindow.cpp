@@ -4,6 +4,7 @@
 #include "simulatorlogmodel.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QFormLayout>
@@ -24,6 +25,7 @@ LogWindow::LogWindow(SimulatorLogModel *model, QWidget *parent)
     , m_view(new QTableView)
     , m_find(new QLineEdit)
     , m_show(new QComboBox)
+    , m_hidePolling(new QCheckBox(tr("Hide &polling")))
     , m_console(new ConsoleLine)
     , m_count(new QLabel)
 {
@@ -46,10 +48,15 @@ LogWindow::LogWindow(SimulatorLogModel *model, QWidget *parent)
     columns->setSectionResizeMode(QHeaderView::Interactive);
     columns->setSectionResizeMode(SimulatorLogModel::TextColumn, QHeaderView::Stretch);
     const int character = m_view->fontMetrics().averageCharWidth();
-    columns->resizeSection(SimulatorLogModel::TimeColumn, 14 * character);
-    columns->resizeSection(SimulatorLogModel::OperationColumn, 19 * character);
-    columns->resizeSection(SimulatorLogModel::ReplyColumn, 22 * character);
-    columns->resizeSection(SimulatorLogModel::ResultColumn, 8 * character);
+    // Never narrower than the title, which a translation may lengthen.
+    const auto size = [columns, character](int column, int characters) {
+        columns->resizeSection(
+            column, qMax(characters * character, columns->sectionSizeHint(column)));
+    };
+    size(SimulatorLogModel::TimeColumn, 14);
+    size(SimulatorLogModel::OperationColumn, 19);
+    size(SimulatorLogModel::ReplyColumn, 22);
+    size(SimulatorLogModel::ResultColumn, 8);
 
     m_find->setClearButtonEnabled(true);
     m_find->setPlaceholderText(tr("text in any column"));
@@ -57,11 +64,17 @@ LogWindow::LogWindow(SimulatorLogModel *model, QWidget *parent)
     m_show->addItems({ tr("everything"), tr("calls"), tr("messages"), tr("failures") });
     connect(m_show, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         [this](int index) { m_filter->setShow(LogFilter::Show(index)); });
+    m_hidePolling->setChecked(m_filter->hidesPolling());
+    m_hidePolling->setToolTip(tr("Hide the reads the module repeats on a timer (status active, "
+                                 "status step_active, status progress, target_status_tracked) "
+                                 "while they succeed"));
+    connect(m_hidePolling, &QCheckBox::toggled, m_filter, &LogFilter::setHidePolling);
     m_console->setObjectName(QStringLiteral("console"));
     m_console->setPlaceholderText(
         tr("a scenario line: config is_changeable = no, @fail status step_active, ..."));
     m_console->setToolTip(tr("The simulated controller takes the line as if it stood in its "
-                             "scenario. Up and Down recall earlier lines."));
+                             "scenario; @unfail * lifts every @fail. Up and Down recall earlier "
+                             "lines."));
     connect(m_console, &ConsoleLine::lineEntered, this, &LogWindow::lineEntered);
 
     auto *save = new QPushButton(tr("Sa&ve log..."));
@@ -80,6 +93,7 @@ LogWindow::LogWindow(SimulatorLogModel *model, QWidget *parent)
     filters->addWidget(m_find, 1);
     filters->addWidget(showLabel);
     filters->addWidget(m_show);
+    filters->addWidget(m_hidePolling);
     filters->addWidget(m_count);
     auto *bottom = new QHBoxLayout;
     auto *consoleLabel = new QLabel(tr("&Controller:"));
@@ -136,6 +150,20 @@ void LogWindow::followModal(QWidget *modal)
     if (!windowHandle())
         create();
     windowHandle()->setTransientParent(modal ? modal->windowHandle() : nullptr);
+}
+
+void LogWindow::showEntry(const QModelIndex &sourceIndex)
+{
+    if (!m_filter->mapFromSource(sourceIndex).isValid()) {
+        m_find->clear();
+        m_show->setCurrentIndex(LogFilter::All);
+    }
+    const QModelIndex shown = m_filter->mapFromSource(sourceIndex);
+    m_view->setCurrentIndex(shown);
+    m_view->scrollTo(shown);
+    show();
+    raise();
+    activateWindow();
 }
 
 void LogWindow::updateCount()

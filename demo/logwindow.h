@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class ConsoleLine;
+class QCheckBox;
 class LogFilter;
 class QComboBox;
 class QLabel;
@@ -26,6 +27,11 @@ public:
     QTableView *view() const { return m_view; }
     LogFilter *filter() const { return m_filter; }
     ConsoleLine *console() const { return m_console; }
+    QCheckBox *hidePolling() const { return m_hidePolling; }
+
+    // Shows the window with the model's row selected, lifting the filters
+    // that hide it.
+    void showEntry(const QModelIndex &sourceIndex);
 
 signals:
     void clearRequested();
@@ -44,6 +50,7 @@ private:
     QTableView *m_view;
     QLineEdit *m_find;
     QComboBox *m_show;
+    QCheckBox *m_hidePolling;
     ConsoleLine *m_console;
     QLabel *m_count;
     bool m_following = true;

@@ -62,8 +62,8 @@ int main(int argc, char *argv[])
                 << QCoreApplication::applicationVersion() << '\n';
             return 0;
         case DemoOptions::ListScenarios:
-            for (const QString &file : sim::SimulatedController::builtInScenarios())
-                out << QFileInfo(file).completeBaseName() << '\t' << file << '\n';
+            for (const QString &line : DemoOptions::scenarioList())
+                out << line << '\n';
             return 0;
         case DemoOptions::Run:
             break;

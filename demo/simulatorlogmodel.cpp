@@ -3,6 +3,7 @@
 #include <QBrush>
 #include <QColor>
 #include <QCoreApplication>
+#include <QFont>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QTextStream>
@@ -66,6 +67,16 @@ QVariant SimulatorLogModel::data(const QModelIndex &index, int role) const
         return message ? Message : Call;
     case FailureRole:
         return failure;
+    case PollingRole:
+        return row.polling;
+    case Qt::FontRole:
+        // The time keeps its width: its column fits the regular digits.
+        if (index.row() == m_latestReport && index.column() != TimeColumn) {
+            QFont bold;
+            bold.setBold(true);
+            return bold;
+        }
+        return QVariant();
     case Qt::DecorationRole:
         if (failure && index.column() == OperationColumn)
             return QColor(200, 0, 0);
@@ -118,6 +129,20 @@ bool SimulatorLogModel::isFailure(const LogEntry &entry)
     return entry.kind != LogEntry::ReplyTimeout && entry.result != 0;
 }
 
+bool SimulatorLogModel::isPolling(const LogEntry &entry)
+{
+    static const QStringList polls { QStringLiteral("status active"),
+        QStringLiteral("status step_active"), QStringLiteral("status progress") };
+    return entry.kind == LogEntry::Query && entry.result == 0
+        && (polls.contains(entry.text)
+            || entry.text.startsWith(QLatin1String("targetlib target_status_tracked ")));
+}
+
+QModelIndex SimulatorLogModel::latestReport() const
+{
+    return m_latestReport < 0 ? QModelIndex() : index(m_latestReport, TextColumn);
+}
+
 void SimulatorLogModel::append(const LogEntry &entry)
 {
     if (m_rows.size() >= m_maximumRows) {
@@ -125,11 +150,20 @@ void SimulatorLogModel::append(const LogEntry &entry)
         const int dropped = qMax(1, m_maximumRows / 10);
         beginRemoveRows(QModelIndex(), 0, dropped - 1);
         m_rows.erase(m_rows.begin(), m_rows.begin() + dropped);
+        m_latestReport = qMax(-1, m_latestReport - dropped);
         endRemoveRows();
     }
+    const bool failure = isFailure(entry);
     beginInsertRows(QModelIndex(), m_rows.size(), m_rows.size());
-    m_rows.append({ entry, QTime::currentTime(), isFailure(entry) });
+    m_rows.append({ entry, QTime::currentTime(), failure, isPolling(entry) });
     endInsertRows();
+    if (failure && entry.kind == LogEntry::Message) {
+        const int previous = m_latestReport;
+        m_latestReport = m_rows.size() - 1;
+        if (previous >= 0)
+            emit dataChanged(index(previous, 0), index(previous, ColumnCount - 1));
+        emit errorReported(entry.text, index(m_latestReport, 0));
+    }
     if (m_logFile.isOpen()) {
         m_logFile.write((lineText(m_rows.size() - 1) + QLatin1Char('\n')).toUtf8());
         m_logFile.flush();
@@ -140,6 +174,7 @@ void SimulatorLogModel::clear()
 {
     beginResetModel();
     m_rows.clear();
+    m_latestReport = -1;
     endResetModel();
 }
 

@@ -18,7 +18,7 @@ class SimulatorLogModel : public QAbstractTableModel
 
 public:
     enum Column { TimeColumn, OperationColumn, TextColumn, ReplyColumn, ResultColumn, ColumnCount };
-    enum Role { KindRole = Qt::UserRole, FailureRole };
+    enum Role { KindRole = Qt::UserRole, FailureRole, PollingRole };
     // What the log can be filtered by.
     enum Kind { Call, Message, Failure };
 
@@ -33,6 +33,13 @@ public:
     // A failed operation, or an error report to the message log (every
     // report there but the target search's progress notices).
     static bool isFailure(const sim::SimulatedController::LogEntry &entry);
+    // A read the module repeats on a timer (several a second while a
+    // dialog is open) and that went well: the log can hide these.
+    static bool isPolling(const sim::SimulatedController::LogEntry &entry);
+
+    // The text of the newest error report, marked in the table; invalid when
+    // there is none.
+    QModelIndex latestReport() const;
 
     void append(const sim::SimulatedController::LogEntry &entry);
     void clear();
@@ -44,16 +51,22 @@ public:
     // Writes every row so far to the file, then each new one as it comes.
     bool setLogFile(const QString &fileName, QString *error);
 
+signals:
+    // A new error report: its text, and the row that holds it.
+    void errorReported(const QString &text, const QModelIndex &index);
+
 private:
     struct Row {
         sim::SimulatedController::LogEntry entry;
         QTime time;
         bool failure; // worked out once: the notice check is not cheap
+        bool polling;
     };
     QString cellText(const Row &row, int column) const;
 
     QVector<Row> m_rows;
     int m_maximumRows;
+    int m_latestReport = -1;
     QFile m_logFile;
 };
 

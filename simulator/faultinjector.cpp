@@ -1,5 +1,7 @@
 #include "faultinjector.h"
 
+#include <algorithm>
+
 namespace sim
 {
 
@@ -16,6 +18,16 @@ void FaultInjector::clearScenarioInjections()
         if (m_injections.at(i).fromScenario)
             m_injections.removeAt(i);
     }
+}
+
+int FaultInjector::lift(const QString &pattern)
+{
+    const int before = m_injections.size();
+    m_injections.erase(
+        std::remove_if(m_injections.begin(), m_injections.end(),
+            [&pattern](const Injection &injection) { return matches(pattern, injection.pattern); }),
+        m_injections.end());
+    return before - m_injections.size();
 }
 
 bool FaultInjector::take(const QString &command, bool settingOnly, Injection *injection)

@@ -31,6 +31,9 @@ public:
     const QList<Injection> &injections() const { return m_injections; }
     void clear() { m_injections.clear(); }
     void clearScenarioInjections();
+    // Removes the injections whose pattern the given one covers ("*" covers
+    // every one); returns how many went.
+    int lift(const QString &pattern);
     // Takes the injection for this command, if any, counting it down.
     bool take(const QString &command, bool settingOnly, Injection *injection);
 

@@ -27,6 +27,25 @@ bool splitAssignment(const QString &line, QString *left, QString *right)
     return false;
 }
 
+// The first words of the controller's parameter paths.
+bool isKnownGroup(const QString &word)
+{
+    static const QStringList groups { QStringLiteral("body"), QStringLiteral("cal"),
+        QStringLiteral("config"), QStringLiteral("filter6d"), QStringLiteral("fingertracking"),
+        QStringLiteral("gripwand"), QStringLiteral("inertial"), QStringLiteral("measurementtool"),
+        QStringLiteral("measurementtool_reference"), QStringLiteral("multiusergripwand_head"),
+        QStringLiteral("standard"), QStringLiteral("status"), QStringLiteral("targetlib"),
+        QStringLiteral("tracking"), QStringLiteral("zemwpan") };
+    return groups.contains(word);
+}
+
+// A quote opened in a value must close it: the last character is one.
+bool hasOpenQuote(const QString &value)
+{
+    return value.count(QLatin1Char('"')) == 1
+        || (value.contains(QLatin1Char('"')) && !value.endsWith(QLatin1Char('"')));
+}
+
 } // namespace
 
 bool Scenario::parseVersion(const QString &text, BackendVersions::Version *version)
@@ -88,6 +107,15 @@ void Scenario::parseLine(const QString &line, int number)
     }
     if (path.startsWith(QLatin1String("velora2 ")) || path == QLatin1String("velora2")) {
         addError(number, QStringLiteral("meta commands are not parameters"));
+        return;
+    }
+    const QString group = path.section(QLatin1Char(' '), 0, 0);
+    if (!isKnownGroup(group)) {
+        addError(number, QStringLiteral("unknown parameter group \"%1\"").arg(group));
+        return;
+    }
+    if (hasOpenQuote(value)) {
+        addError(number, QStringLiteral("unterminated quote in %1").arg(value));
         return;
     }
     if (m_lines.contains(path)) {
@@ -165,7 +193,7 @@ void Scenario::parseDirective(const QString &directive, const QString &rawArgume
         injection.fails = true;
         injection.result = 1;
         injection.fromScenario = true;
-        m_injections << injection;
+        m_faults.add(injection);
     } else if (directive == QLatin1String("@reply")) {
         QString pattern;
         QString reply;
@@ -177,7 +205,17 @@ void Scenario::parseDirective(const QString &directive, const QString &rawArgume
         injection.pattern = pattern;
         injection.reply = reply.toLatin1();
         injection.fromScenario = true;
-        m_injections << injection;
+        m_faults.add(injection);
+    } else if (directive == QLatin1String("@unfail")) {
+        if (argument.isEmpty()) {
+            addError(number, QStringLiteral("no command pattern (\"*\" lifts every one)"));
+            return;
+        }
+        m_faults.lift(argument);
+        m_lifted << argument;
+    } else if (directive == QLatin1String("@note")) {
+        if (once(directive, number))
+            m_note = argument;
     } else {
         addError(number, QStringLiteral("unknown directive %1").arg(directive));
     }

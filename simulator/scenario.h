@@ -25,9 +25,14 @@ namespace sim
 //   @search-duration 3000                   milliseconds a search takes
 //   @fail PATTERN                           commands that fail
 //   @reply PATTERN = TEXT                   commands with a doctored reply
+//   @unfail PATTERN                         lifts the @fail and @reply lines
+//                                           PATTERN covers ("*": all of them)
+//   @note TEXT                              what the scenario is for, shown
+//                                           by the demo host
 //
 // A bad line is reported as "NAME:LINE: reason" and skipped; the rest of the
-// file still counts.
+// file still counts. A parameter path must start with a word the controller
+// knows, so that a misspelt group is not silently a parameter of its own.
 class Scenario
 {
 public:
@@ -38,7 +43,10 @@ public:
     const BackendVersions &versions() const { return m_versions; }
     const QStringList &presentTargets() const { return m_present; }
     int searchDuration() const { return m_searchDuration; } // 0: not given
-    const QList<FaultInjector::Injection> &injections() const { return m_injections; }
+    const QList<FaultInjector::Injection> &injections() const { return m_faults.injections(); }
+    // The @unfail patterns, in order; each has already lifted what stood above it.
+    const QStringList &lifted() const { return m_lifted; }
+    const QString &note() const { return m_note; }
     const QStringList &errors() const { return m_errors; }
     // Whether the text gave the directive ("@present", ...) at all.
     bool has(const QString &directive) const { return m_given.contains(directive); }
@@ -58,7 +66,9 @@ private:
     BackendVersions m_versions;
     QStringList m_present;
     int m_searchDuration = 0;
-    QList<FaultInjector::Injection> m_injections;
+    FaultInjector m_faults;
+    QStringList m_lifted;
+    QString m_note;
     QHash<QString, int> m_directiveLines;
     QStringList m_errors;
     QStringList m_given;

@@ -72,6 +72,7 @@ public:
     FaultInjector injector;
     CommandDispatcher dispatcher;
     BackendVersions versions;
+    QString note;
     QList<LogEntry> log;
     ReceiverRegistry receivers;
     TranscriptCheck transcript;
@@ -236,6 +237,7 @@ bool SimulatedController::loadScenarioText(
     d->injector.clearScenarioInjections();
     for (const FaultInjector::Injection &injection : scenario.injections())
         d->injector.add(injection);
+    d->note = scenario.note();
 
     if (errors)
         *errors += problems;
@@ -497,9 +499,18 @@ bool SimulatedController::takeScenarioLine(const QString &line, QString *error)
             *error = scenario.errors().first().section(QLatin1String(": "), 1);
         return false;
     }
+    for (const QString &pattern : scenario.lifted()) {
+        if (d->injector.lift(pattern) == 0) {
+            if (error)
+                *error = QStringLiteral("no @fail or @reply matches %1").arg(pattern);
+            return false;
+        }
+    }
     const QMap<QString, QString> &parameters = scenario.parameters();
     for (auto it = parameters.cbegin(); it != parameters.cend(); ++it)
         d->table.set(it.key(), it.value());
+    if (scenario.has(QStringLiteral("@note")))
+        d->note = scenario.note();
     const BackendVersions &versions = scenario.versions();
     if (scenario.has(QStringLiteral("@backend-version")))
         d->versions.backendVersion = versions.backendVersion;
@@ -517,6 +528,11 @@ bool SimulatedController::takeScenarioLine(const QString &line, QString *error)
     return true;
 }
 
+QString SimulatedController::scenarioNote() const
+{
+    return d->note;
+}
+
 QString SimulatedController::scenarioText() const
 {
     d->catchUp();
@@ -529,6 +545,8 @@ QString SimulatedController::scenarioText() const
         QStringLiteral("@system-version ") + version(d->versions.systemVersion) };
     if (!d->versions.systemType.isEmpty())
         lines << QStringLiteral("@system-type ") + d->versions.systemType;
+    if (!d->note.isEmpty())
+        lines << QStringLiteral("@note ") + d->note;
     if (!d->search.presentTargets().isEmpty())
         lines << QStringLiteral("@present ") + d->search.presentTargets().join(QLatin1Char(' '));
     lines << QStringLiteral("@search-duration %1").arg(d->search.duration());

@@ -65,6 +65,8 @@ public:
     // would type it: "PATH = VALUE" sets a parameter, a directive applies.
     // Returns false with the reason in error for a bad line.
     bool takeScenarioLine(const QString &line, QString *error = nullptr);
+    // The scenario's @note: what it is for, for a host to show; empty when none.
+    QString scenarioNote() const;
     // The current state as a scenario that loads back to the same state
     // (the search in progress and injections made through the API aside).
     QString scenarioText() const;

@@ -10,10 +10,6 @@ Without a display it renders every dialog and tab to PNG files instead.</source>
 Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in PNG-Dateien.</translation>
     </message>
     <message>
-        <source>Load the plug-in from &lt;path&gt; instead of the one this build made (%1).</source>
-        <translation>Das Plug-in aus &lt;Pfad&gt; laden statt des von diesem Build erzeugten (%1).</translation>
-    </message>
-    <message>
         <source>path</source>
         <translation>Pfad</translation>
     </message>
@@ -104,6 +100,82 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
     <message>
         <source>No translation %1; its texts stay in English.</source>
         <translation>Keine Übersetzung %1; diese Texte bleiben englisch.</translation>
+    </message>
+    <message>
+        <source>name[:options]</source>
+        <translation>Name[:Optionen]</translation>
+    </message>
+    <message>
+        <source>Qt&apos;s platform plug-in: xcb, wayland, offscreen, ...</source>
+        <translation>Qts Plattform-Plug-in: xcb, wayland, offscreen, ...</translation>
+    </message>
+    <message>
+        <source>Folder of the platform plug-ins.</source>
+        <translation>Ordner der Plattform-Plug-ins.</translation>
+    </message>
+    <message>
+        <source>theme</source>
+        <translation>Thema</translation>
+    </message>
+    <message>
+        <source>Platform theme.</source>
+        <translation>Plattformthema.</translation>
+    </message>
+    <message>
+        <source>style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Widget style: Fusion, Windows, ...</source>
+        <translation>Widget-Stil: Fusion, Windows, ...</translation>
+    </message>
+    <message>
+        <source>Style sheet for every widget.</source>
+        <translation>Stylesheet für alle Widgets.</translation>
+    </message>
+    <message>
+        <source>Lay out from right to left.</source>
+        <translation>Von rechts nach links anordnen.</translation>
+    </message>
+    <message>
+        <source>geometry</source>
+        <translation>Geometrie</translation>
+    </message>
+    <message>
+        <source>Geometry of the first window, as in 800x600+50+50.</source>
+        <translation>Geometrie des ersten Fensters, etwa 800x600+50+50.</translation>
+    </message>
+    <message>
+        <source>title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Title of the first window.</source>
+        <translation>Titel des ersten Fensters.</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <translation>Display</translation>
+    </message>
+    <message>
+        <source>X11 display to use.</source>
+        <translation>Zu verwendendes X11-Display.</translation>
+    </message>
+    <message>
+        <source>Print the number of widgets left at exit.</source>
+        <translation>Beim Beenden die Zahl der übrigen Widgets ausgeben.</translation>
+    </message>
+    <message>
+        <source>Load the plug-in from &lt;path&gt; instead of %1.</source>
+        <translation>Das Plug-in aus &lt;Pfad&gt; laden statt aus %1.</translation>
+    </message>
+    <message>
+        <source>Did you mean --%1?</source>
+        <translation>Meinten Sie --%1?</translation>
+    </message>
+    <message>
+        <source>--save-scenario: %1 cannot be written (is its folder there and writable?)</source>
+        <translation>--save-scenario: %1 kann nicht geschrieben werden (gibt es den Ordner, und ist er beschreibbar?)</translation>
     </message>
 </context>
 <context>
@@ -268,6 +340,14 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <source>Scenarios (*.scn)</source>
         <translation>Szenarien (*.scn)</translation>
     </message>
+    <message>
+        <source>configuration locked</source>
+        <translation>Konfiguration gesperrt</translation>
+    </message>
+    <message>
+        <source>The latest error report; click to see it in the controller log</source>
+        <translation>Die letzte Fehlermeldung; ein Klick zeigt sie im Controller-Protokoll</translation>
+    </message>
 </context>
 <context>
     <name>DialogRenderer</name>
@@ -307,10 +387,6 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
         <translation>eine Szenariozeile: config is_changeable = no, @fail status step_active, ...</translation>
     </message>
     <message>
-        <source>The simulated controller takes the line as if it stood in its scenario. Up and Down recall earlier lines.</source>
-        <translation>Der simulierte Controller übernimmt die Zeile, als stünde sie in seinem Szenario. Pfeil hoch und runter holen frühere Zeilen zurück.</translation>
-    </message>
-    <message>
         <source>Sa&amp;ve log...</source>
         <translation>Protokoll &amp;speichern...</translation>
     </message>
@@ -341,6 +417,18 @@ Ohne Bildschirm zeichnet es stattdessen jeden Dialog und jede Registerkarte in P
     <message>
         <source>%1 of %2 entries</source>
         <translation>%1 von %2 Einträgen</translation>
+    </message>
+    <message>
+        <source>Hide &amp;polling</source>
+        <translation>&amp;Abfragen ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide the reads the module repeats on a timer (status active, status step_active, status progress, target_status_tracked) while they succeed</source>
+        <translation>Die Abfragen ausblenden, die das Modul im Takt wiederholt (status active, status step_active, status progress, target_status_tracked), solange sie gelingen</translation>
+    </message>
+    <message>
+        <source>The simulated controller takes the line as if it stood in its scenario; @unfail * lifts every @fail. Up and Down recall earlier lines.</source>
+        <translation>Der simulierte Controller übernimmt die Zeile, als stünde sie in seinem Szenario; @unfail * hebt jedes @fail auf. Pfeil hoch und runter holen frühere Zeilen zurück.</translation>
     </message>
 </context>
 <context>

@@ -137,7 +137,8 @@ private slots:
     }
     void parsesOptions_data()
     {
-        // parsed: backend/system version/plug-in, "-" when not given
+        // parsed: backend/system version/plug-in, "-" when not given; else
+        // what the message says
         testkit::columns<QStringList, int, QString>({ "arguments", "outcome", "parsed" });
 
         const int run = DemoOptions::Run, error = DemoOptions::Error;
@@ -147,8 +148,14 @@ private slots:
         QTest::newRow("both versions, built-in scenario") << QStringList { "--backend-version=2.0.0", "--system-version", "2.10.0", "--scenario", "locked" } << run << "2.0.0/2.10.0/";
         QTest::newRow("two-part version") << QStringList { "--backend-version", "1.9" } << error << "";
         QTest::newRow("missing scenario") << QStringList { "--scenario", "no-such.scn" } << error << "";
-        QTest::newRow("unknown option") << QStringList { "--screenshot", "x.png" } << error << "";
-        QTest::newRow("help") << QStringList { "--help" } << int(DemoOptions::ShowHelp) << "";
+        QTest::newRow("unknown option") << QStringList { "--screenshot", "x.png" } << error << "Unknown option 'screenshot'.";
+        QTest::newRow("misspelt option") << QStringList { "--scenaro", "locked" } << error << "Did you mean --scenario?";
+        QTest::newRow("shortened option") << QStringList { "--lang", "de" } << error << "Did you mean --language?";
+        QTest::newRow("save folder missing") << QStringList { "--save-scenario", "/no/such/x.scn" } << error << "/no/such/x.scn cannot be written";
+        QTest::newRow("Qt's own options") << QStringList { "-platform", "offscreen", "-style=fusion", "-reverse" } << run << "-/-/";
+        QTest::newRow("help") << QStringList { "--help" } << int(DemoOptions::ShowHelp) << "--save-scenario <file>";
+        QTest::newRow("help with Qt's options") << QStringList { "--help-all" } << int(DemoOptions::ShowHelp) << "--platform <name[:options]>";
+        QTest::newRow("scenarios to pass back") << QStringList { "--list-scenarios" } << int(DemoOptions::ListScenarios) << "failures";
         // clang-format on
     }
     void parsesOptions()
@@ -169,16 +176,26 @@ private slots:
         DemoOptions options;
         QString message;
         QCOMPARE(int(DemoOptions::parse(all, &options, &message)), outcome);
-        QVERIFY(outcome != DemoOptions::ShowHelp || message.contains("--save-scenario"));
+        if (outcome == DemoOptions::ListScenarios) {
+            message = DemoOptions::scenarioList().join('\n');
+            for (const QString &line : message.split('\n'))
+                QVERIFY(!DemoOptions::scenarioFile(line.section('\t', 0, 0)).isEmpty());
+        }
         QCOMPARE(message.isEmpty(), outcome == DemoOptions::Run);
+        QVERIFY2(!message.contains("this build")
+                && message.contains("--platform") == arguments.contains("--help-all"),
+            qPrintable(message));
         const auto text = [](bool given, const BackendVersions::Version &v) {
             return given ? DemoOptions::versionText(v) : QStringLiteral("-");
         };
+        QFETCH(QString, parsed);
         if (outcome == DemoOptions::Run)
-            QTEST(text(options.hasBackendVersion, options.backendVersion) + '/'
+            QCOMPARE(text(options.hasBackendVersion, options.backendVersion) + '/'
                     + text(options.hasSystemVersion, options.systemVersion) + '/'
                     + options.pluginPath,
-                "parsed");
+                parsed);
+        else
+            QVERIFY2(message.contains(parsed), qPrintable(message));
     }
     void rendersEveryDialogWithoutAcceleratorClash_data()
     {
@@ -283,6 +300,7 @@ private slots:
         LogFilter filter;
         filter.setSourceModel(&model);
         filter.setShow(LogFilter::Show(show));
+        filter.setHidePolling(false);
         filter.setFilterFixedString(text);
         QTEST(texts(filter), "shown");
     }
@@ -312,6 +330,46 @@ private slots:
         QCOMPARE(currentRow, clicked);
         window.close();
     }
+    // What the operator must see without opening the log: the scenario's
+    // purpose, the latest error report (its row marked, a click away) and the
+    // lock while it holds; the module's polling stays out of the way.
+    void statusBarShowsWhatHappened()
+    {
+        DemoOptions options;
+        options.scenario = "failures";
+        DemoWindow window(options);
+        window.show();
+        QVERIFY(window.findChild<QLabel *>("scenarioNote")->text().startsWith("Failures on"));
+        auto *report = window.findChild<QToolButton *>("latestReport");
+        auto *locked = window.findChild<QLabel *>("configurationLocked");
+        QVERIFY(!report->isVisible() && !locked->isVisible());
+        ModalDriver driver;
+        driver.answer([](QWidget *modal) {
+            QTest::keyClick(modal->findChild<QSpinBox *>("spinBox_standard_bodies"), Qt::Key_Up);
+            static_cast<QDialog *>(modal)->reject();
+        });
+        window.moduleActions().at(1)->trigger(); // body administration
+        QVERIFY(report->isVisible());
+        QCOMPARE(
+            report->text().section(' ', 1), "Error: Unable to set number of standard bodies to 5");
+        const QModelIndex marked = window.logModel()->latestReport();
+        QVERIFY(marked.data(Qt::FontRole).value<QFont>().bold());
+        QTest::mouseClick(report, Qt::LeftButton);
+        QTableView *view = window.logWindow()->view();
+        QCOMPARE(
+            window.logWindow()->filter()->mapToSource(view->currentIndex()).row(), marked.row());
+
+        const auto polls = [view] { return texts(*view->model()).count("status active"); };
+        QCOMPARE(polls(), 0);
+        QTest::mouseClick(window.logWindow()->hidePolling(), Qt::LeftButton);
+        QVERIFY(polls() > 0);
+        for (const char *line : { "config is_changeable = no", "config is_changeable = yes" }) {
+            QTest::keyClicks(window.logWindow()->console(), line);
+            QTest::keyClick(window.logWindow()->console(), Qt::Key_Return);
+            QCOMPARE(locked->isVisible(), QByteArray(line).endsWith("no"));
+        }
+        window.close();
+    }
     // What the console gives the controller is in the scenario it saves, which
     // loads back to the same state.
     void consoleLinesSurviveSavedScenario()
@@ -320,8 +378,9 @@ private slots:
         options.scenario = "orbilux";
         DemoWindow window(options);
         ConsoleLine *console = window.logWindow()->console();
-        const QStringList lines { "config is_changeable = no", "@backend-version 1.x",
-            "@fail status step_active", "@reply status progress = 0.5", "@present t02 t05",
+        const QStringList lines { "@fail status active", "@unfail status*",
+            "config is_changeable = no", "@backend-version 1.x", "@fail status step_active",
+            "@reply status progress = 0.5", "@present t02 t05",
             "body desc standard b01 = \"Tool = 1\"" };
         for (const QString &line : lines) {
             QTest::keyClicks(console, line);
@@ -340,6 +399,7 @@ private slots:
         QCOMPARE(reloaded.value("config is_changeable"), QStringLiteral("no"));
         char reply[200] = {};
         QCOMPARE(reloaded.getString(reply, "status step_active"), 1);
+        QCOMPARE(reloaded.getString(reply, "status active"), 0);
         QCOMPARE(reloaded.getString(reply, "status progress"), 0);
         QCOMPARE(QByteArray(reply), QByteArray("0.5"));
     }

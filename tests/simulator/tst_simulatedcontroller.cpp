@@ -34,10 +34,20 @@ private slots:
     {
         Sim controller;
         QStringList errors;
-        QVERIFY(
-            !controller.loadScenarioText("good = 1\nno separator\n@fail bad*\n", "x.scn", &errors));
-        QCOMPARE(errors, QStringList { "x.scn:2: expected \"PATH = VALUE\"" });
-        QCOMPARE(ask(controller, "good") + ask(controller, "bad thing"), QString("1<failed 1>"));
+        QVERIFY(!controller.loadScenarioText("status good = 1\nno separator\n@fail status g*\n"
+                                             "statsu x = 1\nbody desc standard b01 = \"Glasses\n",
+            "x.scn", &errors));
+        QCOMPARE(errors,
+            QStringList({ "x.scn:2: expected \"PATH = VALUE\"",
+                "x.scn:4: unknown parameter group \"statsu\"",
+                "x.scn:5: unterminated quote in \"Glasses" }));
+        QCOMPARE(ask(controller, "status good"), QString("<failed 1>"));
+        // Lifted from the console; a second time there is nothing left to lift.
+        QString error;
+        QVERIFY(controller.takeScenarioLine("@unfail *", &error));
+        QCOMPARE(ask(controller, "status good"), QString("1"));
+        QVERIFY(!controller.takeScenarioLine("@unfail status g*", &error));
+        QCOMPARE(error, QString("no @fail or @reply matches status g*"));
     }
     // What the tables of the plug-in's tests build on: counts create and drop
     // bodies, meta commands change what refers to them, a lock refuses changes.
