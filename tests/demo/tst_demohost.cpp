@@ -345,13 +345,13 @@ private slots:
         QVERIFY(!report->isVisible() && !locked->isVisible());
         ModalDriver driver;
         driver.answer([](QWidget *modal) {
-            QTest::keyClick(modal->findChild<QSpinBox *>("spinBox_standard_bodies"), Qt::Key_Up);
+            QTest::mouseClick(modal->findChild<QPushButton *>("pushButton_start"), Qt::LeftButton);
             static_cast<QDialog *>(modal)->reject();
         });
         window.moduleActions().at(1)->trigger(); // body administration
         QVERIFY(report->isVisible());
         QCOMPARE(
-            report->text().section(' ', 1), "Error: Unable to set number of standard bodies to 5");
+            report->text().section(' ', 1), "Error: Unable to start target library calibration");
         const QModelIndex marked = window.logModel()->latestReport();
         QVERIFY(marked.data(Qt::FontRole).value<QFont>().bold());
         QTest::mouseClick(report, Qt::LeftButton);
