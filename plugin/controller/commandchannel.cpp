@@ -1,7 +1,5 @@
 #include "commandchannel.h"
 
-#include "replymemory.h"
-
 #include <iomanager.h>
 
 #include <QVariant>
@@ -37,7 +35,6 @@ CommandChannel::CommandChannel(IOManager *ioManager, const BackendVersions *vers
     : m_io(ioManager)
     , m_versions(versions)
     , m_gate(versions)
-    , m_memory(ReplyMemory::of(ioManager))
 {
 }
 
@@ -52,24 +49,16 @@ QByteArray CommandChannel::outgoing(const QString &text) const
 }
 
 template<typename Value, typename Read>
-int CommandChannel::read(char kind, const QString &path, Value *value, Read ioRead) const
+int CommandChannel::read(char /*kind*/, const QString &path, Value *value, Read ioRead) const
 {
     *value = Value();
     if (!m_io)
         return Failed;
     const QByteArray command = outgoing(path);
-    QVariant remembered;
-    if (m_memory->recall(kind, command, &remembered)) {
-        *value = remembered.value<Value>();
-        return 0;
-    }
     Value reply = Value();
     const int result = ioRead(command.constData(), &reply);
-    // A failed read is asked again next time, and reported again.
-    if (result == 0) {
+    if (result == 0)
         *value = reply;
-        m_memory->remember(kind, command, QVariant::fromValue(reply));
-    }
     return result;
 }
 
@@ -122,10 +111,7 @@ int CommandChannel::setParameter(const QString &command) const
 {
     if (!m_io)
         return Failed;
-    const int result = m_io->setParameter("%s", outgoing(command).constData());
-    // Also after a refusal: the controller may have taken part of it.
-    m_memory->forget();
-    return result;
+    return m_io->setParameter("%s", outgoing(command).constData());
 }
 
 int CommandChannel::sendCommand(const QString &command, QString *reply) const
@@ -136,7 +122,6 @@ int CommandChannel::sendCommand(const QString &command, QString *reply) const
         return Failed;
     ReplyBuffer buffer;
     const int result = m_io->sendCommand(buffer.data(), "%s", outgoing(command).constData());
-    m_memory->forget();
     if (reply && result == 0)
         *reply = buffer.text();
     return result;
@@ -171,15 +156,10 @@ void CommandChannel::sendMessage(
     if (!m_io)
         return;
     m_io->sendMessage(receiver, sender, ReportLevel, outgoing(text).constData());
-    // The module that receives it may change the controller before it
-    // returns.
-    m_memory->forget();
 }
 
 void CommandChannel::forgetReplies() const
 {
-    if (m_memory)
-        m_memory->forget();
 }
 
 void CommandChannel::registerReceiver(const char *name, MessageReceiver *receiver) const
