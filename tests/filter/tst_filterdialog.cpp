@@ -46,6 +46,8 @@ const QString SensorPresets("Default, Medium prediction");
 const QString PresetsOff('(' + AllPresets + ')');
 const QString B02("(Room reference (standard body 02)=standard b02)");
 const QString B03("(Handheld (standard body 03)=standard b03)");
+const QString Bodies("Glasses (standard body 01)=standard b01, " + B02.mid(1).chopped(1)
+    + ", Handheld (standard body 03)=standard b03");
 const QString Room(B02 + " # " + AllPresets + " # "); // its body and presets
 const QString Custom("[x] | Custom | 0.50 | 12 | Static");
 const QString Off("[ ] | (Custom) | (0.50) | (12) | (Static)");
@@ -61,30 +63,23 @@ class TestFilterDialog : public QObject
 private slots:
     void init() { testkit::useScenario(controller); }
     void cleanup() { testkit::closeAllAndCheck(); }
-    // The limits are the controller's, the prediction's in milliseconds.
-    void limits()
-    {
-        FilterDialog dialog(&controller, nullptr, &controller.backendVersions());
-        QCOMPARE(child<QSpinBox>(&dialog, "spinBox_prediction")->minimum(), -50);
-        QCOMPARE(child<QSpinBox>(&dialog, "spinBox_prediction")->maximum(), 100);
-        QCOMPARE(child<QDoubleSpinBox>(&dialog, "doubleSpinBox_strength")->maximum(), 0.99);
-    }
     void session_data()
     {
         // minor: of version 1; setting: "path=value", or a command that fails; input: "widget=text"
-        // the operator enters; look: bodies # presets # values; message: message line,
-        // or else the reports
+        // the operator enters; look: bodies # presets # values; commands: all that follow the
+        // input, as body 2's steps; message: message line, or else the reports
         testkit::columns<int, QString, int, int, QString, QString, QString, QString>(
-            { "minor", "setting", "tab", "index", "input", "look", "sent", "message" });
+            { "minor", "setting", "tab", "index", "input", "look", "commands", "message" });
 
         const QString none, S(" # "), closed("([ ]) | () | (0.01) | (0) | ()");
         const QString missing("<b><font color=red>6DOF filter %1not available</font></b>");
         const QString b02("body filter6d_%1 standard b02 %2"),
             get("Error: Unable to get filter 6d %1");
-        // Reading the preset and the switch is not shielded from their slots: a
-        // value that differs from what the widget showed is sent back.
-        const QString customBack = b02.arg("preset", "preset6d_std_custom");
-        const QString offAndBack = b02.arg("enabled", "no") + ", " + customBack;
+        // Strength, prediction and mode, as read after the preset. Reading the
+        // preset and the switch is not shielded from their slots: the custom
+        // preset of body 2 read into its refilled combo goes back, its reads follow.
+        const QString custom(" strength prediction modes mode"),
+            back(" preset=preset6d_std_custom" + custom + custom);
         // clang-format off
         QTest::newRow("custom preset") << 24 << none << 0 << 1 << none << Room + Custom << none << none;
         QTest::newRow("hybrid preset hides strength") << 24 << "body filter6d_preset standard b02=preset6d_hybrid_custom" << 0 << 1 << none << Room + "[x] | Custom hybrid | 0.50 hidden | 12 | Static" << none << none;
@@ -95,7 +90,7 @@ private slots:
         QTest::newRow("before 1.12: switch with a sensor") << 11 << none << 0 << 2 << none << B03 + S + SensorPresets + S + "[x] | Medium prediction | (0.50) | (20) | (Adaptive fast)" << none << none;
         QTest::newRow("1.12: no switch with a sensor") << 12 << none << 0 << 2 << none << B03 + S + SensorPresets + S + SensorBody << none << none;
         QTest::newRow("body by index: unchecked, unnamed") << 24 << none << 0 << 3 << none << "(standard body 04=standard b04)" + S + AllPresets + S + Predefined << none << none;
-        QTest::newRow("calibrated standard bodies") << 24 << none << 0 << -1 << none << "Glasses (standard body 01)=standard b01, Room reference (standard body 02)=standard b02, Handheld (standard body 03)=standard b03" + S + AllPresets + S + Predefined << none << none;
+        QTest::newRow("calibrated standard bodies") << 24 << none << 0 << -1 << none << Bodies + S + AllPresets + S + Predefined << none << none;
         QTest::newRow("no body") << 24 << "body number_of_bodies standard=0" << 0 << -1 << none << none + S + "()" + S + "[ ] | () | (0.01) | (0) | ()" << none << none;
         QTest::newRow("calibrated Gripwands") << 24 << none << 1 << -1 << none << "Gripwand body 01=gripwand b01" + S + AllPresets + S + Predefined << none << none;
         QTest::newRow("Gripwand by index") << 24 << none << 1 << 1 << none << "(Gripwand body 02=gripwand b02)" + S + AllPresets + S + Predefined << none << none;
@@ -110,12 +105,13 @@ private slots:
         QTest::newRow("before 1.9 never locked") << 8 << "config is_changeable=no" << 0 << 1 << none << Room + Custom << none << none;
         // A refused setting still shows what the operator entered; success
         // and refusal share one path, so one refusal per setting is enough.
-        QTest::newRow("refused strength") << 24 << b02.arg("strength", "*") << 0 << 1 << "doubleSpinBox_strength=0.75" << Room + "[x] | Custom | 0.75 | 12 | Static" << b02.arg("strength", "0.750000") << "Error: Unable to set filter 6d strength for body standard b02";
-        QTest::newRow("refused mode") << 24 << b02.arg("mode", "*") << 0 << 1 << "comboBox_mode=Fast" << Room + "[x] | Custom | 0.50 | 12 | Fast" << b02.arg("mode", "mode6d_fast") << "Error: Unable to set filter 6d mode for body standard b02";
-        QTest::newRow("refused prediction, 20 ms sent in seconds") << 24 << b02.arg("prediction", "*") << 0 << 1 << "spinBox_prediction=20" << Room + "[x] | Custom | 0.50 | 20 | Static" << b02.arg("prediction", "0.020000") << "Error: Unable to set filter 6d prediction for body standard b02";
-        QTest::newRow("refused predefined preset") << 24 << b02.arg("preset", "*") << 0 << 1 << "comboBox_preset=Default" << Room + "[x] | Default | (0.50) | (12) | (Static)" << b02.arg("preset", "preset6d_default") << "Error: Unable to set filter 6d preset for body standard b02";
-        QTest::newRow("refused switch, values still read") << 24 << b02.arg("enabled", "*") << 0 << 1 << "checkBox_active" << B02 + S + PresetsOff + S + Off << offAndBack << "Error: Unable to activate/deactivate filter 6d for body standard b02";
-        QTest::newRow("body change sends the preset back") << 24 << none << 0 << -1 << "comboBox_body=Room reference (standard body 02)" << "Glasses (standard body 01)=standard b01, Room reference (standard body 02)=standard b02, Handheld (standard body 03)=standard b03" + S + AllPresets + S + Custom << customBack << none;
+        QTest::newRow("refused strength") << 24 << b02.arg("strength", "*") << 0 << 1 << "doubleSpinBox_strength=0.75" << Room + "[x] | Custom | 0.75 | 12 | Static" << "strength=0.750000" << "Error: Unable to set filter 6d strength for body standard b02";
+        QTest::newRow("refused mode") << 24 << b02.arg("mode", "*") << 0 << 1 << "comboBox_mode=Fast" << Room + "[x] | Custom | 0.50 | 12 | Fast" << "mode=mode6d_fast" << "Error: Unable to set filter 6d mode for body standard b02";
+        QTest::newRow("refused prediction, 20 ms sent in seconds") << 24 << b02.arg("prediction", "*") << 0 << 1 << "spinBox_prediction=20" << Room + "[x] | Custom | 0.50 | 20 | Static" << "prediction=0.020000" << "Error: Unable to set filter 6d prediction for body standard b02";
+        QTest::newRow("refused predefined preset") << 24 << b02.arg("preset", "*") << 0 << 1 << "comboBox_preset=Default" << Room + "[x] | Default | (0.50) | (12) | (Static)" << "preset=preset6d_default" + custom << "Error: Unable to set filter 6d preset for body standard b02";
+        QTest::newRow("refused switch, its reads follow") << 24 << b02.arg("enabled", "*") << 0 << 1 << "checkBox_active" << B02 + S + PresetsOff + S + Off << "enabled=no presets preset" + back << "Error: Unable to activate/deactivate filter 6d for body standard b02";
+        QTest::newRow("body chosen") << 24 << none << 0 << -1 << "comboBox_body=Room" << Bodies + S + AllPresets + S + Custom << "enabled inertial_sensor presets preset" + back << none;
+        QTest::newRow("body chosen, its switch sent back") << 24 << "body filter6d_enabled standard b02=no" << 0 << -1 << "comboBox_body=Room" << Bodies + S + PresetsOff + S + Off << "enabled enabled=no presets preset" + back + " inertial_sensor presets preset" + back << none;
         QTest::newRow("unread " "strength") << 24 << "body filter6d_strength standard b02" << 0 << 1 << none << Room + "[x] | Custom | 0.01 | 12 | Static" << none << get.arg("strength for body standard b02");
         QTest::newRow("unread " "prediction") << 24 << "body filter6d_prediction standard b02" << 0 << 1 << none << Room + "[x] | Custom | 0.50 | 0 | Static" << none << get.arg("prediction for body standard b02");
         QTest::newRow("unread " "mode") << 24 << "body filter6d_mode standard b02" << 0 << 1 << none << Room + "[x] | Custom | 0.50 | 12 | " << none << get.arg("mode for body standard b02");
@@ -136,12 +132,105 @@ private slots:
         QFETCH(QString, input);
         controller.backendVersions().backendVersion = { 1, minor, 0 };
         testkit::apply(controller, setting);
-        FilterDialog dialog(&controller, nullptr, &controller.backendVersions());
-        QStringList shown, sent;
+        QStringList shown;
         QString message;
+        const int mark = run(tab, index, input, [&](QWidget *modal) {
+            shown << itemsOf(modal, "comboBox_body", true)
+                  << itemsOf(modal, "comboBox_preset", false) << valuesOf(modal);
+            message = child<QLabel>(modal, "label_error")->text();
+        });
+        QTEST(shown.join(" # "), "look");
+        QFETCH(QString, commands);
+        QCOMPARE(controller.commands().mid(mark), body2(commands));
+        QTEST(message.isEmpty() ? controller.reports().join('|') : message, "message");
+    }
+    // An opening from construction on. Reports stay in the controller's words
+    // whatever the operator reads.
+    void opening_data()
+    {
+        testkit::columns<int, QString, QString, QString>(
+            { "minor", "setting", "commands", "report" });
+        const QString read("inertial_sensor desc enabled inertial_sensor ");
+        QTest::newRow("1.20") << 20 << "" << read + "preset strength prediction mode"
+                              << "";
+        QTest::newRow("1.21, the strength unread")
+            << 21 << "body filter6d_strength standard b02"
+            << read + "presets preset strength prediction modes mode"
+            << "Error: Unable to get filter 6d strength for body standard b02";
+    }
+    void opening()
+    {
+        QFETCH(int, minor);
+        QFETCH(QString, setting);
+        QFETCH(QString, commands);
+        controller.backendVersions().backendVersion = { 1, minor, 0 };
+        testkit::apply(controller, setting);
+        QTranslator german;
+        QVERIFY(german.load(TRACKING_QM_FILE));
+        QCoreApplication::installTranslator(&german);
+        run(0, 1, "");
+        QCoreApplication::removeTranslator(&german);
+        const QStringList limits { "filter6d limit strength_min", "filter6d limit strength_max",
+            "filter6d limit prediction_min", "filter6d limit prediction_max" },
+            opened { "filter6d available standard", "config is_changeable" };
+        QCOMPARE(controller.commands(),
+            listed("preset") + limits + listed("mode") + opened + body2(commands));
+        QTEST(controller.reports().join('|'), "report");
+    }
+    void help()
+    {
+        ModalDriver driver;
+        driver.answer([](QWidget *dialog) { testkit::clickLater(dialog, "pushButton_help"); });
+        driver.answer([](QWidget *help) { testkit::clickLater(help, "pushButton_exit"); });
+        driver.reject();
+        FilterDialog dialog(&controller, nullptr, &controller.backendVersions());
+        dialog.update_and_exec(0, 1);
+        QCOMPARE(driver.seen().at(0).title + '|' + driver.seen().at(1).title,
+            QString("Filter Settings|Help Filter"));
+    }
+
+private:
+    // The preset or mode list as read at construction, or as offered to body 2.
+    QStringList listed(const QString &kind, bool forBody = false) const
+    {
+        QStringList reads { "filter6d number_of_" + kind + 's' };
+        for (int t = 1; t <= controller.value(reads.first()).toInt(); ++t) {
+            reads << QString("filter6d %1_id t0%2").arg(kind).arg(t);
+            const QString id = controller.value(reads.last());
+            if (forBody)
+                reads << "body filter6d_" + kind + "_available standard b02 " + id;
+            reads << "filter6d " + kind + "_desc " + id;
+        }
+        return reads;
+    }
+    // Body 2's part of a flow in its steps: "presets" and "modes" are the
+    // lists offered to it, "desc" and "inertial_sensor" its reads, any other
+    // step reads its filter setting, or sends it with "=value".
+    QStringList body2(const QString &steps) const
+    {
+        QStringList commands;
+        for (const QString &step : steps.split(' ', Qt::SkipEmptyParts)) {
+            const QString name = step.section('=', 0, 0), value = step.section('=', 1);
+            if (step.endsWith('s'))
+                commands += listed(step.chopped(1), true);
+            else
+                commands << "body "
+                        + QString(name == "desc" || name == "inertial_sensor" ? "" : "filter6d_")
+                        + name + " standard b02" + (value.isEmpty() ? "" : ' ' + value);
+        }
+        return commands;
+    }
+    // Opens the dialog, enters input as the operator does ("widget=text", or a
+    // widget to click), hands it to look and leaves with Exit. Returns how
+    // many commands the controller had heard before the input.
+    int run(
+        int tab, int index, const QString &input, const std::function<void(QWidget *)> &look = {})
+    {
+        FilterDialog dialog(&controller, nullptr, &controller.backendVersions());
+        int mark = 0;
         ModalDriver driver;
         driver.answer([&](QWidget *modal) {
-            const int mark = controller.log().size();
+            mark = controller.commands().size();
             QWidget *target
                 = input.isEmpty() ? nullptr : child(modal, qPrintable(input.section('=', 0, 0)));
             if (auto *combo = qobject_cast<QComboBox *>(target)) {
@@ -153,40 +242,15 @@ private slots:
             } else if (target) {
                 QTest::mouseClick(target, Qt::LeftButton, {}, QPoint(5, target->height() / 2));
             }
-            shown << itemsOf(modal, "comboBox_body", true)
-                  << itemsOf(modal, "comboBox_preset", false) << valuesOf(modal);
-            sent = testkit::settingsOf(controller, mark);
-            message = child<QLabel>(modal, "label_error")->text();
+            if (look)
+                look(modal);
             // Return in a spin box must not have closed the dialog.
             testkit::clickLater(modal, "pushButton_exit");
         });
         dialog.update_and_exec(tab, index);
-        QTEST(shown.join(" # "), "look");
-        QTEST(sent.join(", "), "sent");
-        QTEST(message.isEmpty() ? controller.reports().join('|') : message, "message");
-    }
-    void help()
-    {
-        QString page;
-        ModalDriver driver;
-        driver.answer([](QWidget *dialog) { testkit::clickLater(dialog, "pushButton_help"); });
-        driver.answer([&](QWidget *help) {
-            page = child<QLabel>(help, "label_heading")->text()
-                + child<QLabel>(help, "label_help")->text();
-            testkit::clickLater(help, "pushButton_exit");
-        });
-        driver.reject();
-        FilterDialog dialog(&controller, nullptr, &controller.backendVersions());
-        dialog.update_and_exec(0, 1);
-        QCOMPARE(driver.seen().at(0).title + '|' + driver.seen().at(1).title,
-            QString("Filter Settings|Help Filter"));
-        for (const char *part :
-            { "Help for filter settings", "Strength", "Prediction", "Mode", "Adaptive fast",
-                "Adaptive slow", ">Fast<", ">Slow<", ">Static<", "Reference target" })
-            QVERIFY2(page.contains(part), part);
+        return mark;
     }
 
-private:
     sim::SimulatedController controller;
 };
 
