@@ -488,38 +488,6 @@ Geometrie von %2 %3 löschen?</translation>
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>Error: Unable to get number of filter 6d presets</source>
-        <translation>Fehler: Anzahl der 6DOF-Filtervorgaben kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d preset id</source>
-        <translation>Fehler: ID der 6DOF-Filtervorgabe kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d preset description</source>
-        <translation>Fehler: Beschreibung der 6DOF-Filtervorgabe kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d preset id available</source>
-        <translation>Fehler: Verfügbarkeit der 6DOF-Filtervorgabe kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get number of filter 6d modes</source>
-        <translation>Fehler: Anzahl der 6DOF-Filtermodi kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d mode id</source>
-        <translation>Fehler: ID des 6DOF-Filtermodus kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d mode description</source>
-        <translation>Fehler: Beschreibung des 6DOF-Filtermodus kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d mode id available</source>
-        <translation>Fehler: Verfügbarkeit des 6DOF-Filtermodus kann nicht gelesen werden</translation>
-    </message>
-    <message>
         <source>6DOF filter for standard bodies not available</source>
         <translation>6DOF-Filter für Standardkörper nicht verfügbar</translation>
     </message>
@@ -538,42 +506,6 @@ Geometrie von %2 %3 löschen?</translation>
     <message>
         <source>Gripwand body %1</source>
         <translation>Gripwand-Körper %1</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d preset for body %1</source>
-        <translation>Fehler: 6DOF-Filtervorgabe von Körper %1 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d strength for body %1</source>
-        <translation>Fehler: 6DOF-Filterstärke von Körper %1 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d prediction for body %1</source>
-        <translation>Fehler: 6DOF-Filtervorhersage von Körper %1 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get filter 6d mode for body %1</source>
-        <translation>Fehler: 6DOF-Filtermodus von Körper %1 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to activate/deactivate filter 6d for body %1</source>
-        <translation>Fehler: 6DOF-Filter von Körper %1 kann nicht ein- oder ausgeschaltet werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set filter 6d preset for body %1</source>
-        <translation>Fehler: 6DOF-Filtervorgabe von Körper %1 kann nicht gesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set filter 6d strength for body %1</source>
-        <translation>Fehler: 6DOF-Filterstärke von Körper %1 kann nicht gesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set filter 6d prediction for body %1</source>
-        <translation>Fehler: 6DOF-Filtervorhersage von Körper %1 kann nicht gesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set filter 6d mode for body %1</source>
-        <translation>Fehler: 6DOF-Filtermodus von Körper %1 kann nicht gesetzt werden</translation>
     </message>
 </context>
 <context>
@@ -766,26 +698,6 @@ Geometrie von %2 %3 löschen?</translation>
 </context>
 <context>
     <name>FixedAngleDlg</name>
-    <message>
-        <source>Error: Unable to check number of standard bodies</source>
-        <translation>Fehler: Anzahl der Standardkörper kann nicht geprüft werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to check name of standard body</source>
-        <translation>Fehler: Name des Standardkörpers kann nicht geprüft werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to check the calibration status of standard body</source>
-        <translation>Fehler: Kalibrierzustand des Standardkörpers kann nicht geprüft werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to check target type</source>
-        <translation>Fehler: Targettyp kann nicht geprüft werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to check fixed angle of standard body</source>
-        <translation>Fehler: Fester Winkel des Standardkörpers kann nicht geprüft werden</translation>
-    </message>
     <message>
         <source>Fixed Angle</source>
         <translation>Fester Winkel</translation>
@@ -1597,57 +1509,8 @@ das Target vor der Nachkalibrierung am Gerät montieren)</translation>
         <translation>Einzelmarker</translation>
     </message>
     <message>
-        <source>TrackingSettings: Old version of Pelicam Controller</source>
-        <translation>Trackingeinstellungen: alte Version des Pelicam-Controllers</translation>
-    </message>
-    <message>
         <source>x = %1 mm, y = %2 mm, z = %3 mm</source>
         <translation>x = %1 mm, y = %2 mm, z = %3 mm</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set values of the 5DOF central axis</source>
-        <translation>Fehler: Werte der 5DOF-Zentralachse können nicht gesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set inertial tracking settings</source>
-        <translation>Fehler: Einstellungen des Inertialtrackings können nicht gesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set inertial tracking synchronous to cameras</source>
-        <translation>Fehler: Inertialtracking kann nicht synchron zu den Kameras gesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set inertial tracking to sensor</source>
-        <translation>Fehler: Inertialtracking kann nicht auf den Sensor gesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set inertial tracking frequency</source>
-        <translation>Fehler: Frequenz des Inertialtrackings kann nicht gesetzt werden</translation>
-    </message>
-</context>
-<context>
-    <name>TrackingPreferences</name>
-    <message>
-        <source>Error: Loading tracking settings preferences. File %1 cannot be opened for reading. Using built-in values</source>
-        <translation>Fehler: Laden der Trackingeinstellungen. Datei %1 kann nicht gelesen werden. Es gelten die eingebauten Werte</translation>
-    </message>
-    <message>
-        <source>Error: Loading tracking settings preferences while parsing %1 (Line %2, Column %3) :
-%4. Using built-in values</source>
-        <translation>Fehler: Laden der Trackingeinstellungen beim Lesen von %1 (Zeile %2, Spalte %3):
-%4. Es gelten die eingebauten Werte</translation>
-    </message>
-    <message>
-        <source>Error: Loading tracking settings preferences while parsing %1 : The file doesn&apos;t look like a valid preferences file. Using built-in values</source>
-        <translation>Fehler: Laden der Trackingeinstellungen beim Lesen von %1: Die Datei ist keine gültige Einstellungsdatei. Es gelten die eingebauten Werte</translation>
-    </message>
-    <message>
-        <source>Error: Writing tracking preferences. Directory %1 doesn&apos;t exist and cannot be created</source>
-        <translation>Fehler: Schreiben der Trackingeinstellungen. Verzeichnis %1 fehlt und kann nicht angelegt werden</translation>
-    </message>
-    <message>
-        <source>Error: Writing tracking preferences. File %1 cannot be opened for writing</source>
-        <translation>Fehler: Schreiben der Trackingeinstellungen. Datei %1 kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>

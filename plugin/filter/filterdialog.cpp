@@ -27,10 +27,10 @@ const ListCommands PresetCommands = {
     "filter6d preset_id ",
     "filter6d preset_desc ",
     "body filter6d_preset_available ",
-    QT_TRANSLATE_NOOP("FilterDialog", "Error: Unable to get number of filter 6d presets"),
-    QT_TRANSLATE_NOOP("FilterDialog", "Error: Unable to get filter 6d preset id"),
-    QT_TRANSLATE_NOOP("FilterDialog", "Error: Unable to get filter 6d preset description"),
-    QT_TRANSLATE_NOOP("FilterDialog", "Error: Unable to get filter 6d preset id available"),
+    "Error: Unable to get number of filter 6d presets",
+    "Error: Unable to get filter 6d preset id",
+    "Error: Unable to get filter 6d preset description",
+    "Error: Unable to get filter 6d preset id available",
 };
 
 const ListCommands ModeCommands = {
@@ -38,10 +38,10 @@ const ListCommands ModeCommands = {
     "filter6d mode_id ",
     "filter6d mode_desc ",
     "body filter6d_mode_available ",
-    QT_TRANSLATE_NOOP("FilterDialog", "Error: Unable to get number of filter 6d modes"),
-    QT_TRANSLATE_NOOP("FilterDialog", "Error: Unable to get filter 6d mode id"),
-    QT_TRANSLATE_NOOP("FilterDialog", "Error: Unable to get filter 6d mode description"),
-    QT_TRANSLATE_NOOP("FilterDialog", "Error: Unable to get filter 6d mode id available"),
+    "Error: Unable to get number of filter 6d modes",
+    "Error: Unable to get filter 6d mode id",
+    "Error: Unable to get filter 6d mode description",
+    "Error: Unable to get filter 6d mode id available",
 };
 
 QString typeOfTab(int tabIndex)
@@ -102,7 +102,7 @@ QList<FilterDialog::Preset> FilterDialog::readList(ListKind kind) const
     const ListCommands &commands = kind == ListKind::Presets ? PresetCommands : ModeCommands;
     QList<Preset> list;
     int count = 0;
-    channel.getCount(QLatin1String(commands.count), &count);
+    channel.getInt(QLatin1String(commands.count), &count);
     for (int number = 1; number <= count; ++number) {
         Preset entry;
         QString description;
@@ -192,7 +192,7 @@ void FilterDialog::fillBodies(int tabIndex, int bodyIndex)
         return;
     }
     int count = 0;
-    channel.getCount(type == QLatin1String("standard")
+    channel.getInt(type == QLatin1String("standard")
             ? QStringLiteral("body number_of_bodies standard")
             : QStringLiteral("gripwand number_of_devices"),
         &count);
@@ -269,7 +269,8 @@ void FilterDialog::readPreset()
     refillPresets(body);
     QString preset;
     if (channel.getString(QStringLiteral("body filter6d_preset ") + body, &preset) != 0) {
-        channel.report(tr("Error: Unable to get filter 6d preset for body %1").arg(body));
+        channel.report(
+            QStringLiteral("Error: Unable to get filter 6d preset for body %1").arg(body));
         ui->comboBox_preset->setEnabled(false);
         return;
     }
@@ -284,13 +285,15 @@ void FilterDialog::readCustomSettings()
     double strength = 0.0;
     if (!body.isEmpty()
         && channel.getDouble(QStringLiteral("body filter6d_strength ") + body, &strength) != 0)
-        channel.report(tr("Error: Unable to get filter 6d strength for body %1").arg(body));
+        channel.report(
+            QStringLiteral("Error: Unable to get filter 6d strength for body %1").arg(body));
     ui->doubleSpinBox_strength->setValue(strength);
 
     double prediction = 0.0;
     if (!body.isEmpty()
         && channel.getDouble(QStringLiteral("body filter6d_prediction ") + body, &prediction) != 0)
-        channel.report(tr("Error: Unable to get filter 6d prediction for body %1").arg(body));
+        channel.report(
+            QStringLiteral("Error: Unable to get filter 6d prediction for body %1").arg(body));
     ui->spinBox_prediction->setValue(milliseconds(prediction));
 
     readMode(body);
@@ -314,7 +317,8 @@ void FilterDialog::readMode(const QString &body)
             refillForBody(ListKind::Modes, body, ui->comboBox_mode);
         QString mode;
         if (channel.getString(QStringLiteral("body filter6d_mode ") + body, &mode) != 0)
-            channel.report(tr("Error: Unable to get filter 6d mode for body %1").arg(body));
+            channel.report(
+                QStringLiteral("Error: Unable to get filter 6d mode for body %1").arg(body));
         else
             index = ui->comboBox_mode->findData(mode);
     }
@@ -342,29 +346,29 @@ void FilterDialog::refillForBody(ListKind kind, const QString &body, QComboBox *
     const QScopedValueRollback<bool> shield(initialised, false);
     combo->clear();
     int count = 0;
-    if (channel.getCount(QLatin1String(commands.count), &count) != 0) {
-        channel.report(tr(commands.countError));
+    if (channel.getInt(QLatin1String(commands.count), &count) != 0) {
+        channel.report(QString::fromLatin1(commands.countError));
         return;
     }
     for (int number = 1; number <= count; ++number) {
         QString id;
         if (channel.getString(QLatin1String(commands.id) + CommandText::targetId(number), &id)
             != 0) {
-            channel.report(tr(commands.idError));
+            channel.report(QString::fromLatin1(commands.idError));
             continue;
         }
         QString available;
         if (channel.getString(
                 QLatin1String(commands.available) + body + QLatin1Char(' ') + id, &available)
             != 0) {
-            channel.report(tr(commands.availableError));
+            channel.report(QString::fromLatin1(commands.availableError));
             continue;
         }
         if (!CommandText::isYes(available))
             continue;
         QString description;
         if (channel.getString(QLatin1String(commands.description) + id, &description) != 0) {
-            channel.report(tr(commands.descriptionError));
+            channel.report(QString::fromLatin1(commands.descriptionError));
             continue;
         }
         combo->addItem(CommandText::withoutDoubleQuotes(description), id);
@@ -374,7 +378,7 @@ void FilterDialog::refillForBody(ListKind kind, const QString &body, QComboBox *
 void FilterDialog::setFilterEnabled(const QString &bodyId, bool enabled)
 {
     send(bodyId, "filter6d_enabled", CommandText::yesNo(enabled),
-        QT_TR_NOOP("Error: Unable to activate/deactivate filter 6d for body %1"));
+        "Error: Unable to activate/deactivate filter 6d for body %1");
 }
 
 void FilterDialog::send(
@@ -383,7 +387,7 @@ void FilterDialog::send(
     const QString command
         = QStringLiteral("body %1 %2 %3").arg(QLatin1String(setting), body, value);
     if (channel.setParameter(command) != 0)
-        channel.report(tr(error).arg(body));
+        channel.report(QString::fromLatin1(error).arg(body));
 }
 
 void FilterDialog::on_comboBox_body_currentIndexChanged(int /*index*/)
@@ -411,7 +415,7 @@ void FilterDialog::on_comboBox_preset_currentIndexChanged(int index)
     if (!initialised || body.isEmpty() || index < 0)
         return;
     send(body, "filter6d_preset", ui->comboBox_preset->itemData(index).toString(),
-        QT_TR_NOOP("Error: Unable to set filter 6d preset for body %1"));
+        "Error: Unable to set filter 6d preset for body %1");
     readCustomSettings();
 }
 
@@ -421,7 +425,7 @@ void FilterDialog::on_doubleSpinBox_strength_editingFinished()
     if (!initialised || body.isEmpty())
         return;
     send(body, "filter6d_strength", QString::asprintf("%f", ui->doubleSpinBox_strength->value()),
-        QT_TR_NOOP("Error: Unable to set filter 6d strength for body %1"));
+        "Error: Unable to set filter 6d strength for body %1");
 }
 
 void FilterDialog::on_spinBox_prediction_editingFinished()
@@ -431,7 +435,7 @@ void FilterDialog::on_spinBox_prediction_editingFinished()
         return;
     send(body, "filter6d_prediction",
         QString::asprintf("%f", ui->spinBox_prediction->value() / 1000.0),
-        QT_TR_NOOP("Error: Unable to set filter 6d prediction for body %1"));
+        "Error: Unable to set filter 6d prediction for body %1");
 }
 
 void FilterDialog::on_comboBox_mode_currentIndexChanged(int index)
@@ -440,7 +444,7 @@ void FilterDialog::on_comboBox_mode_currentIndexChanged(int index)
     if (!initialised || body.isEmpty() || index < 0)
         return;
     send(body, "filter6d_mode", ui->comboBox_mode->itemData(index).toString(),
-        QT_TR_NOOP("Error: Unable to set filter 6d mode for body %1"));
+        "Error: Unable to set filter 6d mode for body %1");
 }
 
 void FilterDialog::on_pushButton_help_clicked()

@@ -40,8 +40,8 @@ int FixedAngleDlg::update_and_exec()
 void FixedAngleDlg::readRecords()
 {
     int count = 0;
-    if (channel.getCount(QStringLiteral("body number_of_bodies standard"), &count) != 0) {
-        channel.report(tr("Error: Unable to check number of standard bodies"));
+    if (channel.getInt(QStringLiteral("body number_of_bodies standard"), &count) != 0) {
+        channel.report(QStringLiteral("Error: Unable to check number of standard bodies"));
         return;
     }
     for (int number = 1; number <= count; ++number)
@@ -56,19 +56,20 @@ FixedAngle FixedAngleDlg::readRecord(int number) const
 
     QString reply;
     if (channel.getString(QStringLiteral("body desc standard ") + id, &reply) != 0)
-        channel.report(tr("Error: Unable to check name of standard body"));
+        channel.report(QStringLiteral("Error: Unable to check name of standard body"));
     record.name = CommandText::withoutDoubleQuotes(reply);
 
     if (channel.getString(QStringLiteral("body calibrated standard ") + id, &reply) != 0)
-        channel.report(tr("Error: Unable to check the calibration status of standard body"));
+        channel.report(
+            QStringLiteral("Error: Unable to check the calibration status of standard body"));
     record.usable = CommandText::isYes(reply);
 
     if (channel.getString(QStringLiteral("body target_type standard ") + id, &reply) != 0)
-        channel.report(tr("Error: Unable to check target type"));
+        channel.report(QStringLiteral("Error: Unable to check target type"));
     record.usable = record.usable && allowsFixedAngle(reply);
 
     if (channel.getString(QStringLiteral("standard fixed_angle ") + id, &reply) != 0)
-        channel.report(tr("Error: Unable to check fixed angle of standard body"));
+        channel.report(QStringLiteral("Error: Unable to check fixed angle of standard body"));
     record.setFromReply(reply);
     return record;
 }

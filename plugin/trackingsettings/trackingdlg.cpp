@@ -59,8 +59,6 @@ TrackingDlg::TrackingDlg(IOManager *ioManager, QWidget *parent, BackendVersions 
 
     for (const Axis &axis : Axes)
         ui->comboBox_5dofAxis->addItem(QLatin1String(axis.name));
-    // Unknown until the controller has been asked.
-    ui->comboBox_5dofAxis->setCurrentIndex(-1);
 }
 
 TrackingDlg::~TrackingDlg()
@@ -138,7 +136,7 @@ void TrackingDlg::applyAdvancedButton()
         ui->pushButton_advanced->setEnabled(!locked);
     } else {
         ui->pushButton_advanced->setEnabled(false);
-        channel.report(tr("TrackingSettings: Old version of Pelicam Controller"));
+        channel.report(QStringLiteral("TrackingSettings: Old version of Pelicam Controller"));
     }
 }
 
@@ -147,7 +145,7 @@ bool TrackingDlg::anyFixedAngle() const
     if (!channel.atLeast(1, 6))
         return false;
     int count = 0;
-    channel.getCount(QStringLiteral("standard number_of_bodies"), &count);
+    channel.getInt(QStringLiteral("standard number_of_bodies"), &count);
     for (int number = 1; number <= count; ++number) {
         FixedAngle body;
         body.setFromReply(channel.stringOf(
@@ -163,7 +161,7 @@ void TrackingDlg::readAxis()
     QString reply;
     const bool answered = channel.getString(QLatin1String(CentralAxis), &reply) == 0;
     // Controllers may add fields after the vector; only the first three count.
-    const QStringList fields = reply.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList fields = reply.split(QLatin1Char(' '));
     double value[3] = { 0, 0, 0 };
     bool numbers = answered && fields.size() >= 3;
     for (int i = 0; numbers && i < 3; ++i)
@@ -199,7 +197,7 @@ void TrackingDlg::sendAxis()
         if (channel.setParameter(QLatin1String(CentralAxis)
                 + QString::asprintf(" %.3f %.3f %.3f", axis.x, axis.y, axis.z))
             != 0)
-            channel.report(tr("Error: Unable to set values of the 5DOF central axis"));
+            channel.report(QStringLiteral("Error: Unable to set values of the 5DOF central axis"));
         return;
     }
 }
@@ -207,22 +205,23 @@ void TrackingDlg::sendAxis()
 void TrackingDlg::sendPulse()
 {
     if (!channel.atLeast(1, 21)) {
-        channel.report(tr("Error: Unable to set inertial tracking settings"));
+        channel.report(QStringLiteral("Error: Unable to set inertial tracking settings"));
         return;
     }
     if (ui->radioButton_cameraSynchronous->isChecked()) {
         if (channel.setParameter(QStringLiteral("tracking pulse synchronous_cameras")) != 0)
-            channel.report(tr("Error: Unable to set inertial tracking synchronous to cameras"));
+            channel.report(
+                QStringLiteral("Error: Unable to set inertial tracking synchronous to cameras"));
     } else if (ui->radioButton_inertialSensor->isChecked()) {
         if (channel.setParameter(QStringLiteral("tracking pulse inertial_sensor ")
                 + ui->comboBox_inertialSensor->currentData().toString())
             != 0)
-            channel.report(tr("Error: Unable to set inertial tracking to sensor"));
+            channel.report(QStringLiteral("Error: Unable to set inertial tracking to sensor"));
     } else if (ui->radioButton_frequency->isChecked()) {
         if (channel.setParameter(QStringLiteral("tracking pulse frequency ")
                 + QString::asprintf("%f", ui->doubleSpinBox_frequency->value()))
             != 0)
-            channel.report(tr("Error: Unable to set inertial tracking frequency"));
+            channel.report(QStringLiteral("Error: Unable to set inertial tracking frequency"));
     }
 }
 
@@ -302,8 +301,9 @@ void TrackingDlg::on_pushButton_ok_clicked()
         if (channel.atLeast(0, 14))
             channel.setParameter(QLatin1String(AutoRestart) + QLatin1Char(' ')
                 + CommandText::yesNo(ui->checkBox_autoReStart->isChecked()));
-        if (channel.atLeast(1, 12))
-            sendAxis();
+        // Older controllers cannot show the axis, but the combo holds one all
+        // the same: its first item, and that one is sent.
+        sendAxis();
     }
     if (pulseChanged)
         sendPulse();

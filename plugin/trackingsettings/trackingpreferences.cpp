@@ -35,15 +35,6 @@ QString TrackingPreferences::fileName() const
 
 QString TrackingPreferences::read()
 {
-    const QString error = readFile();
-    // Until the dialog opens again, the file tells what its last opening
-    // showed; a session that never opens it keeps that.
-    m_advancedShown = m_fixedAngleVisible;
-    return error;
-}
-
-QString TrackingPreferences::readFile()
-{
     const QString name = fileName();
     // A first start has no file; that is no error.
     if (!QFile::exists(name))
@@ -52,8 +43,9 @@ QString TrackingPreferences::readFile()
     m_fixedAngleVisible = false;
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
-        return tr("Error: Loading tracking settings preferences. File %1 cannot be opened for "
-                  "reading. Using built-in values")
+        return QStringLiteral(
+            "Error: Loading tracking settings preferences. File %1 cannot be opened for "
+            "reading. Using built-in values")
             .arg(name);
 
     QDomDocument document;
@@ -61,14 +53,16 @@ QString TrackingPreferences::readFile()
     int line = 0;
     int column = 0;
     if (!document.setContent(&file, &message, &line, &column))
-        return tr("Error: Loading tracking settings preferences while parsing %1 (Line %2, Column "
-                  "%3) :\n%4. Using built-in values")
+        return QStringLiteral(
+            "Error: Loading tracking settings preferences while parsing %1 (Line %2, Column "
+            "%3) :\n%4. Using built-in values")
             .arg(name, QString::number(line), QString::number(column), message);
 
     const QDomElement root = document.documentElement();
     if (root.tagName() != QLatin1String(RootTag))
-        return tr("Error: Loading tracking settings preferences while parsing %1 : The file "
-                  "doesn't look like a valid preferences file. Using built-in values")
+        return QStringLiteral(
+            "Error: Loading tracking settings preferences while parsing %1 : The file "
+            "doesn't look like a valid preferences file. Using built-in values")
             .arg(name);
 
     for (QDomNode node = root.firstChild(); !node.isNull(); node = node.nextSibling()) {
@@ -105,13 +99,14 @@ QString TrackingPreferences::write() const
     root.appendChild(autoRestart);
 
     if (!QDir(m_directory).exists() && !QDir().mkpath(m_directory))
-        return tr("Error: Writing tracking preferences. Directory %1 doesn't exist and cannot be "
-                  "created")
+        return QStringLiteral(
+            "Error: Writing tracking preferences. Directory %1 doesn't exist and cannot be "
+            "created")
             .arg(m_directory);
 
-    const QString cannotWrite
-        = tr("Error: Writing tracking preferences. File %1 cannot be opened for writing")
-              .arg(fileName());
+    const QString cannotWrite = QStringLiteral(
+        "Error: Writing tracking preferences. File %1 cannot be opened for writing")
+                                    .arg(fileName());
     QSaveFile file(fileName());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return cannotWrite;

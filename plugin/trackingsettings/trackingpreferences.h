@@ -1,7 +1,6 @@
 #ifndef TRACKING_TRACKINGPREFERENCES_H
 #define TRACKING_TRACKINGPREFERENCES_H
 
-#include <QCoreApplication>
 #include <QString>
 
 // The tracking dialog's two display preferences, kept per user and per module
@@ -11,8 +10,6 @@
 // read() and write() return the error report to send, or an empty text.
 class TrackingPreferences
 {
-    Q_DECLARE_TR_FUNCTIONS(TrackingPreferences)
-
 public:
     explicit TrackingPreferences(const QString &moduleVersion);
 
@@ -27,12 +24,12 @@ public:
 
     bool fixedAngleVisible() const { return m_fixedAngleVisible; }
     bool autoRestartVisible() const { return m_autoRestartVisible; }
+    // What the last opening showed; a dialog that was never opened showed no
+    // button, whatever the file said.
     bool advancedShown() const { return m_advancedShown; }
     void setAdvancedShown(bool shown) { m_advancedShown = shown; }
 
 private:
-    QString readFile();
-
     QString m_directory;
     bool m_fixedAngleVisible = false;
     bool m_autoRestartVisible = false;

@@ -39,19 +39,6 @@ inline void clickLater(const QObject *parent, const char *name)
     QTimer::singleShot(0, widget, [widget] { QTest::mouseClick(widget, Qt::LeftButton); });
 }
 
-// What the controller was told to change (settings and meta commands), in
-// order, from entry `from` of its log on.
-inline QStringList settingsOf(const sim::SimulatedController &controller, int from = 0)
-{
-    QStringList sent;
-    const QList<sim::SimulatedController::LogEntry> &log = controller.log();
-    for (int i = from; i < log.size(); ++i)
-        if (log.at(i).kind == sim::SimulatedController::LogEntry::Setting
-            || log.at(i).kind == sim::SimulatedController::LogEntry::Command)
-            sent << log.at(i).text;
-    return sent;
-}
-
 // A fresh start on the built-in default scenario, controller 1.24.
 inline void useScenario(sim::SimulatedController &controller)
 {
