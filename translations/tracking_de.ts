@@ -88,54 +88,7 @@
     </message>
 </context>
 <context>
-    <name>BodyAdministrationDlg</name>
-    <message>
-        <source>Unable to close dialog during calibration is running</source>
-        <translation>Der Dialog kann nicht geschlossen werden, solange eine Kalibrierung läuft</translation>
-    </message>
-</context>
-<context>
     <name>BodyLoader</name>
-    <message>
-        <source>Error: Unable to get number of %1 bodies</source>
-        <translation>Fehler: Anzahl der %1-Körper kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get description of bodytype %1</source>
-        <translation>Fehler: Beschreibung des Körpertyps %1 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get availability of filter6d for bodytype %1</source>
-        <translation>Fehler: Verfügbarkeit des 6DOF-Filters für Körpertyp %1 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get description of body %1 b%2 </source>
-        <translation>Fehler: Beschreibung von Körper %1 b%2 kann nicht gelesen werden </translation>
-    </message>
-    <message>
-        <source>Error: Unable to get targetlib name of body %1 b%2</source>
-        <translation>Fehler: Name in der Targetbibliothek von Körper %1 b%2 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get activeness of body %1 b%2</source>
-        <translation>Fehler: Aktivierung von Körper %1 b%2 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get calibration state of body %1 b%2</source>
-        <translation>Fehler: Kalibrierzustand von Körper %1 b%2 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get recalibrated state of body %1 b%2</source>
-        <translation>Fehler: Nachkalibrierzustand von Körper %1 b%2 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get inertial sensor of body %1 b%2</source>
-        <translation>Fehler: Inertialsensor von Körper %1 b%2 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get handeye status of sensor %1</source>
-        <translation>Fehler: Hand-Auge-Status von Sensor %1 kann nicht gelesen werden</translation>
-    </message>
     <message>
         <source>not calibrated</source>
         <translation>nicht kalibriert</translation>
@@ -164,10 +117,6 @@
         <source>not active</source>
         <translation>nicht aktiv</translation>
     </message>
-    <message>
-        <source>Error: Unable to info body reference</source>
-        <translation>Fehler: Referenzkörper kann nicht gelesen werden</translation>
-    </message>
 </context>
 <context>
     <name>BodyOperations</name>
@@ -176,30 +125,10 @@
         <translation>Warnung</translation>
     </message>
     <message>
-        <source>Error: Unable to set activeness of body %1 b%2</source>
-        <translation>Fehler: Aktivierung von Körper %1 b%2 kann nicht gesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set description of body %1 b%2</source>
-        <translation>Fehler: Beschreibung von Körper %1 b%2 kann nicht gesetzt werden</translation>
-    </message>
-    <message>
         <source>A de-activated body cannot be set as reference.
 Please activate this body before.</source>
         <translation>Ein deaktivierter Körper kann nicht Referenz werden.
 Bitte aktivieren Sie den Körper zuerst.</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set body %1 b%2 as reference body</source>
-        <translation>Fehler: Körper %1 b%2 kann nicht als Referenzkörper gesetzt werden</translation>
-    </message>
-    <message>
-        <source>Unable to information of reference body</source>
-        <translation>Referenzkörper kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to de-activate the reference body</source>
-        <translation>Fehler: Der Referenzkörper kann nicht deaktiviert werden</translation>
     </message>
     <message>
         <source>Unknown reset of %1 %2!</source>
@@ -212,26 +141,14 @@ to Target-Library geometry?</source>
 der Targetbibliothek zurücksetzen?</translation>
     </message>
     <message>
-        <source>Error: Unable to reset body from target library</source>
-        <translation>Fehler: Körper kann nicht aus der Targetbibliothek zurückgesetzt werden</translation>
-    </message>
-    <message>
         <source>Reset of %1 %2 failed!</source>
         <translation>Zurücksetzen von %1 %2 fehlgeschlagen!</translation>
-    </message>
-    <message>
-        <source>Unable to get storage info from sensor</source>
-        <translation>Speicherinformation des Sensors kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Reset %1 %2
 to sensor stored values?</source>
         <translation>%1 %2 auf die im Sensor
 gespeicherten Werte zurücksetzen?</translation>
-    </message>
-    <message>
-        <source>Unable to get info about hand eye calibration from sensor</source>
-        <translation>Hand-Auge-Kalibrierung des Sensors kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Reset %1 %2?</source>
@@ -242,26 +159,6 @@ gespeicherten Werte zurücksetzen?</translation>
 Hand eye calibration will be deleted!</source>
         <translation>%1 %2 zurücksetzen?
 Die Hand-Auge-Kalibrierung wird gelöscht!</translation>
-    </message>
-    <message>
-        <source>Could not get warmup status</source>
-        <translation>Aufwärmstatus kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Could not stop warmup of sensors</source>
-        <translation>Aufwärmen der Sensoren kann nicht angehalten werden</translation>
-    </message>
-    <message>
-        <source>Unable to reset sensor hand eye calibration</source>
-        <translation>Hand-Auge-Kalibrierung des Sensors kann nicht zurückgesetzt werden</translation>
-    </message>
-    <message>
-        <source>Could not start warmup of sensors</source>
-        <translation>Aufwärmen der Sensoren kann nicht gestartet werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to reset body to sensor stored values</source>
-        <translation>Fehler: Körper kann nicht auf die im Sensor gespeicherten Werte zurückgesetzt werden</translation>
     </message>
     <message>
         <source>Delete geometry of %1 %2?
@@ -284,71 +181,12 @@ Geometrie von %2 %3 löschen?</translation>
         <translation>Löschen von %1 %2 fehlgeschlagen</translation>
     </message>
     <message>
-        <source>Unable to reset reference body</source>
-        <translation>Referenzkörper kann nicht zurückgesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get info preset available</source>
-        <translation>Fehler: Verfügbarkeit der Filtervorgabe kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Unable to reset filter6d of %1 %2</source>
-        <translation>6DOF-Filter von %1 %2 kann nicht zurückgesetzt werden</translation>
-    </message>
-    <message>
-        <source>Unable to reset sensor of %1 %2</source>
-        <translation>Sensor von %1 %2 kann nicht zurückgesetzt werden</translation>
-    </message>
-    <message>
-        <source>Unable to reset markers of %1 %2</source>
-        <translation>Marker von %1 %2 können nicht zurückgesetzt werden</translation>
-    </message>
-    <message>
-        <source>Unable to reset description of %1 %2</source>
-        <translation>Beschreibung von %1 %2 kann nicht zurückgesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to switch bodies</source>
-        <translation>Fehler: Körper können nicht getauscht werden</translation>
-    </message>
-    <message>
         <source>Switching %1 %2 and %3 failed!</source>
         <translation>Tauschen von %1 %2 und %3 fehlgeschlagen!</translation>
-    </message>
-    <message>
-        <source>Unable to get info targetlib ID of body</source>
-        <translation>Targetbibliotheks-ID des Körpers kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Unable to reset markers of target %1 %2</source>
-        <translation>Marker von Target %1 %2 können nicht zurückgesetzt werden</translation>
-    </message>
-    <message>
-        <source>Unable to reset description of target %1 %1</source>
-        <translation>Beschreibung von Target %1 %1 kann nicht zurückgesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to calibrate body from target library</source>
-        <translation>Fehler: Körper kann nicht aus der Targetbibliothek kalibriert werden</translation>
-    </message>
-</context>
-<context>
-    <name>BodyTableFiller</name>
-    <message>
-        <source>Error: Unable to get info inertial tracking available</source>
-        <translation>Fehler: Verfügbarkeit des Inertialtrackings kann nicht gelesen werden</translation>
     </message>
 </context>
 <context>
     <name>BodyTypeAdministrationTab</name>
-    <message>
-        <source>Error: Unable to get info inertial tracking available</source>
-        <translation>Fehler: Verfügbarkeit des Inertialtrackings kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get info inertial sensor is present</source>
-        <translation>Fehler: Vorhandensein des Inertialsensors kann nicht gelesen werden</translation>
-    </message>
     <message>
         <source>VELORA4</source>
         <translation>VELORA4</translation>
@@ -364,18 +202,6 @@ Geometrie von %2 %3 löschen?</translation>
     <message>
         <source>Continue?</source>
         <translation>Fortfahren?</translation>
-    </message>
-    <message>
-        <source>Unable to get info targetlib ID of body</source>
-        <translation>Targetbibliotheks-ID des Körpers kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Warning</source>
-        <translation>Warnung</translation>
-    </message>
-    <message>
-        <source>Overwrite body calibration data of %1?</source>
-        <translation>Kalibrierdaten von %1 überschreiben?</translation>
     </message>
 </context>
 <context>
@@ -564,14 +390,6 @@ Geometrie von %2 %3 löschen?</translation>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Fingertracking is not available!&lt;/font&gt;&lt;/b&gt;</source>
         <translation>&lt;b&gt;&lt;font color=red&gt;Fingertracking ist nicht verfügbar!&lt;/font&gt;&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get max number of %1 hand bodies</source>
-        <translation>Fehler: Höchstzahl der %1-Handkörper kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set number of %1 hand bodies to %2</source>
-        <translation>Fehler: Anzahl der %1-Handkörper kann nicht auf %2 gesetzt werden</translation>
     </message>
     <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Max. number of Hands is reached!&lt;/font&gt;&lt;/b&gt;</source>
@@ -789,48 +607,12 @@ Geometrie von %2 %3 löschen?</translation>
         <translation>&amp;Gripwand</translation>
     </message>
     <message>
-        <source>Error: Unable to get max number of %1 bodies</source>
-        <translation>Fehler: Höchstzahl der %1-Körper kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set number of %1 bodies to %2</source>
-        <translation>Fehler: Anzahl der %1-Körper kann nicht auf %2 gesetzt werden</translation>
-    </message>
-    <message>
         <source>unknown</source>
         <translation>unbekannt</translation>
     </message>
     <message>
-        <source>Error: Unable to get model description of vendor %1 model %2</source>
-        <translation>Fehler: Modellbeschreibung von Hersteller %1, Modell %2 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get info whether multiuser gripwand is available</source>
-        <translation>Fehler: Verfügbarkeit des Mehrbenutzerbetriebs der Gripwands kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get info multiuser gripwand with head available</source>
-        <translation>Fehler: Verfügbarkeit des Mehrbenutzerbetriebs mit Kopf-Target kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get info whether multiuser gripwand is activated</source>
-        <translation>Fehler: Aktivierung des Mehrbenutzerbetriebs der Gripwands kann nicht gelesen werden</translation>
-    </message>
-    <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Max. number of gripwands is reached!&lt;/font&gt;&lt;/b&gt;</source>
         <translation>&lt;b&gt;&lt;font color=red&gt;Höchstzahl der Gripwands ist erreicht!&lt;/font&gt;&lt;/b&gt;</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get info whether multiuser gripwand with head is activated</source>
-        <translation>Fehler: Aktivierung des Mehrbenutzerbetriebs mit Kopf-Target kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get global filter6d status of Gripwand bodies</source>
-        <translation>Fehler: Globaler 6DOF-Filterstatus der Gripwand-Körper kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set global filter6d status of Gripwand bodies</source>
-        <translation>Fehler: Globaler 6DOF-Filterstatus der Gripwand-Körper kann nicht gesetzt werden</translation>
     </message>
 </context>
 <context>
@@ -967,14 +749,6 @@ Geometrie von %2 %3 löschen?</translation>
         <translation>&lt;b&gt;&lt;font color=red&gt;Messwerkzeug ist nicht verfügbar!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
     <message>
-        <source>Error: Unable to get max number of %1 bodies</source>
-        <translation>Fehler: Höchstzahl der %1-Körper kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set number of %1 bodies to %2</source>
-        <translation>Fehler: Anzahl der %1-Körper kann nicht auf %2 gesetzt werden</translation>
-    </message>
-    <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Max. number of Measurement Tools is reached!&lt;/font&gt;&lt;/b&gt;</source>
         <translation>&lt;b&gt;&lt;font color=red&gt;Höchstzahl der Messwerkzeuge ist erreicht!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
@@ -999,14 +773,6 @@ Geometrie von %2 %3 löschen?</translation>
 If yes, the assignment to the Measurement Tool will be deleted.</source>
         <translation>Referenzkörper %1 des Messwerkzeugs löschen?
 Dann wird auch die Zuordnung zum Messwerkzeug gelöscht.</translation>
-    </message>
-    <message>
-        <source>Unable to reset description of %1 %2</source>
-        <translation>Beschreibung von %1 %2 kann nicht zurückgesetzt werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set ref. body</source>
-        <translation>Fehler: Referenzkörper kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>Delete body %1 failed</source>
@@ -1169,14 +935,6 @@ wird das zugehörige Messwerkzeug nicht mehr getrackt.</translation>
         <translation>&amp;Standard</translation>
     </message>
     <message>
-        <source>Error: Unable to get max number of %1 bodies</source>
-        <translation>Fehler: Höchstzahl der %1-Körper kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set number of %1 bodies to %2</source>
-        <translation>Fehler: Anzahl der %1-Körper kann nicht auf %2 gesetzt werden</translation>
-    </message>
-    <message>
         <source>&lt;b&gt;&lt;font color=red&gt;Max. number of bodies is reached!&lt;/font&gt;&lt;/b&gt;</source>
         <translation>&lt;b&gt;&lt;font color=red&gt;Höchstzahl der Körper ist erreicht!&lt;/font&gt;&lt;/b&gt;</translation>
     </message>
@@ -1193,14 +951,6 @@ wird kein Target mehr getrackt.</translation>
     <message>
         <source>Continue?</source>
         <translation>Fortfahren?</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get global filter6d status of standard bodies</source>
-        <translation>Fehler: Globaler 6DOF-Filterstatus der Standardkörper kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to set global filter6d status of standard bodies</source>
-        <translation>Fehler: Globaler 6DOF-Filterstatus der Standardkörper kann nicht gesetzt werden</translation>
     </message>
     <message>
         <source>This target is already calibrated as Measurement Tool Reference MR%1.</source>
@@ -1327,6 +1077,17 @@ das Target vor der Nachkalibrierung am Gerät montieren)</translation>
     </message>
 </context>
 <context>
+    <name>TargetAssignment</name>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Overwrite body calibration data of %1?</source>
+        <translation>Kalibrierdaten von %1 überschreiben?</translation>
+    </message>
+</context>
+<context>
     <name>TargetSearch</name>
     <message>
         <source>No targets could be identified in library</source>
@@ -1343,38 +1104,6 @@ das Target vor der Nachkalibrierung am Gerät montieren)</translation>
     <message>
         <source>VELORA4</source>
         <translation>VELORA4</translation>
-    </message>
-    <message>
-        <source>Error: Unable to start target library calibration</source>
-        <translation>Fehler: Kalibrierung aus der Targetbibliothek kann nicht gestartet werden</translation>
-    </message>
-    <message>
-        <source>. Calibration type is not available</source>
-        <translation>. Kalibrierart ist nicht verfügbar</translation>
-    </message>
-    <message>
-        <source>. Calibration is already active.</source>
-        <translation>. Kalibrierung läuft bereits.</translation>
-    </message>
-    <message>
-        <source>target library calibration started</source>
-        <translation>Kalibrierung aus der Targetbibliothek gestartet</translation>
-    </message>
-    <message>
-        <source>%1 already calibrated</source>
-        <translation>%1 bereits kalibriert</translation>
-    </message>
-    <message>
-        <source>Error during target library calibration. Calibration aborted</source>
-        <translation>Fehler bei der Kalibrierung aus der Targetbibliothek. Kalibrierung abgebrochen</translation>
-    </message>
-    <message>
-        <source>target library calibration stopped</source>
-        <translation>Kalibrierung aus der Targetbibliothek beendet</translation>
-    </message>
-    <message>
-        <source>target library calibration cancelled</source>
-        <translation>Kalibrierung aus der Targetbibliothek abgebrochen</translation>
     </message>
     <message>
         <source>found targets: %1, already calibrated: %2</source>
@@ -1406,21 +1135,6 @@ das Target vor der Nachkalibrierung am Gerät montieren)</translation>
     <message>
         <source>no</source>
         <translation>nein</translation>
-    </message>
-</context>
-<context>
-    <name>Targetlibrary</name>
-    <message>
-        <source>Error: Unable to get target name</source>
-        <translation>Fehler: Targetname kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get body type</source>
-        <translation>Fehler: Körpertyp kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>Error: Unable to get group name</source>
-        <translation>Fehler: Gruppenname kann nicht gelesen werden</translation>
     </message>
 </context>
 <context>
