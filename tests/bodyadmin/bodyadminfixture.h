@@ -150,12 +150,16 @@ public:
 
     // The next boxes are answered with these buttons, any further one
     // positively (Yes, else Ok) so that no test hangs on a surprise. Each
-    // box goes into the events as "? text|informative text".
+    // box goes into the events as "? text|informative text". An operator
+    // takes a while to answer: the found targets are refreshed three times
+    // meanwhile, as the status timer would.
     void answer(const QList<int> &buttons = {})
     {
         for (int i = 0; i < buttons.size() + 4; ++i) {
             const int button = buttons.value(i, 0);
             driver->answer([this, button](QWidget *modal) {
+                for (int tick = 0; tab && tick < 3; ++tick)
+                    QMetaObject::invokeMethod(tab, "updateTrackedAndAcceptStatus_tl");
                 auto *box = qobject_cast<QMessageBox *>(modal);
                 if (!box)
                     return static_cast<QDialog *>(modal)->reject();

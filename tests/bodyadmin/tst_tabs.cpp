@@ -8,13 +8,19 @@ class TestTabs : public QObject
 {
     Q_OBJECT
 
-    // Shows the target's category (where the tab has a combo) and makes
-    // the target current.
-    void chooseTarget(const QString &id)
+    // Shows the target's category (where the tab has a combo), or the found
+    // targets for "*id", and makes the target current.
+    void chooseTarget(QString id)
     {
+        const bool found = id.startsWith('*');
+        id.remove('*');
         const QString group = id == "t03" ? "g02" : id < "t03" ? "g01" : "g03";
         if (auto *combo = f.widget<QComboBox>("comboBox_filter"))
-            combo->setCurrentText(f.controller->value("targetlib group_name " + group).remove('"'));
+            combo->setCurrentText(found
+                    ? QString("- Found Targets -")
+                    : f.controller->value("targetlib group_name " + group).remove('"'));
+        if (found)
+            QMetaObject::invokeMethod(f.tab, "updateTrackedAndAcceptStatus_tl");
         QTableWidget *targets = f.table("tableWidget_targetlibrary");
         for (int row = 0; row < targets->rowCount(); ++row) {
             if (targets->item(row, 0)->text() == id)
@@ -190,7 +196,8 @@ private slots:
             free1 + QStringList { calibrate.arg("GL-5"), bends.arg("Glasses 5 markers") });
         row("a named body is asked about, Cancel", 0, none, 1, "t04", int(QMessageBox::Cancel),
             overwrite);
-        row("a named body is asked about, Ok", 0, none, 1, "t04", 0,
+        row("a named body is asked about while the found targets refresh, Ok", 0,
+            L("targetlib target_status_tracked t04 = yes"), 1, "*t04", 0,
             overwrite + L("velora2 body calibrate_from_targetlib standard b02 TR-4"));
         row("measurement-tool reference", 0, none, 3, "t05", 0,
             mr1 + freed("measurementtool_reference") + QStringList { calibrate.arg("TR-5") });
