@@ -1,6 +1,7 @@
 #include "bodytablefiller.h"
 
 #include "bodyloader.h"
+#include "celltooltips.h"
 #include "commandchannel.h"
 
 #include <QHeaderView>
@@ -125,6 +126,11 @@ QTableWidgetItem *BodyTableFiller::cell(
     default:
         break;
     }
+    // Set before the item joins the table: a tip set afterwards is a change
+    // the view hears, cell by cell.
+    const QString tip = CellToolTips::of(body, role, item->data(UsableRole).toInt() == 1);
+    if (!tip.isEmpty())
+        item->setToolTip(tip);
     return item;
 }
 

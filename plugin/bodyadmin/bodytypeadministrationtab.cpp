@@ -2,7 +2,6 @@
 
 #include "bodytableinput.h"
 #include "busycursor.h"
-#include "celltooltips.h"
 #include "editdelegate.h"
 #include "filterdialog.h"
 #include "handoverrequest.h"
@@ -239,13 +238,10 @@ void BodyTypeAdministrationTab::refreshSpinBox(const QString &type, bool reconne
 
 void BodyTypeAdministrationTab::refreshTable(const QString &type)
 {
-    if (const BodyTypeEntry *e = entry(type)) {
+    if (const BodyTypeEntry *e = entry(type))
         tableFiller.fill(*e, [this, &type](int index, int column, QTableWidgetItem *item) {
             updateExtraColumn(type, index, column, item);
         });
-        const QSignalBlocker blocker(e->table);
-        CellToolTips::apply(*e);
-    }
 }
 
 void BodyTypeAdministrationTab::changeNumberOfBodies(const QString &type, int count)

@@ -1,27 +1,5 @@
 #include "celltooltips.h"
 
-#include "bodytablefiller.h"
-
-#include <QTableWidget>
-
-void CellToolTips::apply(const BodyTypeEntry &entry)
-{
-    QTableWidget *table = entry.table;
-    if (!table)
-        return;
-    for (int row = 0; row < table->rowCount() && row < entry.bodies.size(); ++row) {
-        for (int column = 0; column < entry.columnRoles.size(); ++column) {
-            QTableWidgetItem *item = table->item(row, column);
-            if (!item)
-                continue;
-            const bool usable = item->data(BodyTableFiller::UsableRole).toInt() == 1;
-            const QString tip = of(entry.bodies.at(row), entry.columnRoles.at(column), usable);
-            if (!tip.isEmpty())
-                item->setToolTip(tip);
-        }
-    }
-}
-
 QString CellToolTips::of(const BodyRecord &body, int role, bool usable)
 {
     switch (role) {

@@ -5,8 +5,6 @@
 
 #include <QCoreApplication>
 
-class QTableWidgetItem;
-
 // Tool tips of the icon cells of a body table: what a click does, and why
 // a cell drawn disabled does nothing.
 class CellToolTips
@@ -14,9 +12,8 @@ class CellToolTips
     Q_DECLARE_TR_FUNCTIONS(CellToolTips)
 
 public:
-    // Sets the tips of every calibration, delete and reset cell of the
-    // entry's table; the table's signals must be blocked by the caller.
-    static void apply(const BodyTypeEntry &entry);
+    // The tip of a calibration, delete or reset cell; empty for the other
+    // roles.
     static QString of(const BodyRecord &body, int role, bool usable);
 };
 
