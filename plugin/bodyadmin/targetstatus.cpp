@@ -5,6 +5,7 @@
 #include "targetlibrary.h"
 
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QTableWidget>
 
 const QString TargetStatus::FoundTargets = QStringLiteral("- Found Targets -");
@@ -143,8 +144,8 @@ QString TargetStatus::customCalibrationOf(const QString &id) const
 void TargetStatus::fillTable(
     QTableWidget *table, const QString &bodyType, const QString &group) const
 {
-    table->clearContents();
-    table->setRowCount(0);
+    // As after emptying the table: no current row, nothing selected.
+    table->selectionModel()->clear();
 
     // The check is slow and would disturb a running search or measurement.
     const QString active = m_channel.stringOf(QStringLiteral("status active"));
@@ -153,18 +154,32 @@ void TargetStatus::fillTable(
         m_channel.sendCommand(QStringLiteral("velora2 targetlib check_custom_calibration"));
     }
 
+    // Rows are kept where they show the same target again: the refresh of
+    // the found targets then repaints only what changed, instead of the
+    // table's removal and return moving its scroll bar and the page.
     const QList<Target *> targets = targetsOf(bodyType, group);
-    for (const Target *target : targets) {
-        const int row = table->rowCount();
-        table->insertRow(row);
-        table->setItem(row, IdColumn, new QTableWidgetItem(target->id));
-        table->setItem(row, NameColumn, new QTableWidgetItem(target->description));
-        table->setItem(row, ShortNameColumn, new QTableWidgetItem(target->name));
+    table->setRowCount(targets.size());
+    for (int row = 0; row < targets.size(); ++row) {
+        const Target *target = targets.at(row);
         const bool custom = !CommandText::isNone(customCalibrationOf(target->id));
-        auto *state = custom ? new QTableWidgetItem(m_customIcon, tr("custom"))
-                             : new QTableWidgetItem(tr("no"));
-        state->setFlags(Qt::ItemIsEnabled);
-        table->setItem(row, CustomColumn, state);
+        const QTableWidgetItem *id = table->item(row, IdColumn);
+        if (id && id->text() == target->id) {
+            // Text set to what it was is no change.
+            table->item(row, NameColumn)->setText(target->description);
+            table->item(row, ShortNameColumn)->setText(target->name);
+        } else {
+            table->setItem(row, IdColumn, new QTableWidgetItem(target->id));
+            table->setItem(row, NameColumn, new QTableWidgetItem(target->description));
+            table->setItem(row, ShortNameColumn, new QTableWidgetItem(target->name));
+        }
+        const QString state = custom ? tr("custom") : tr("no");
+        const QTableWidgetItem *shown = table->item(row, CustomColumn);
+        if (shown && shown->text() == state)
+            continue;
+        auto *item
+            = custom ? new QTableWidgetItem(m_customIcon, state) : new QTableWidgetItem(state);
+        item->setFlags(Qt::ItemIsEnabled);
+        table->setItem(row, CustomColumn, item);
     }
 }
 
