@@ -182,9 +182,14 @@ void BodyTableFiller::applyHeaderModes(QTableWidget *table)
         return;
     }
     header->setStretchLastSection(false);
-    for (int c = 0; c < header->count(); ++c)
-        header->setSectionResizeMode(
-            c, c == stretch ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    for (int c = 0; c < header->count(); ++c) {
+        const QHeaderView::ResizeMode mode
+            = c == stretch ? QHeaderView::Stretch : QHeaderView::ResizeToContents;
+        // A mode set again still has the header measure every row of every
+        // column once more; each resize of the tab would pay for it.
+        if (header->sectionResizeMode(c) != mode)
+            header->setSectionResizeMode(c, mode);
+    }
 }
 
 void BodyTableFiller::showMaximumReached(
