@@ -1,8 +1,9 @@
 // What the operator waits for: every flow of the body administration and the
 // single markers dialog as the operator runs it, dialogs shown, with a large
 // configuration. Each flow is timed from the click until the event loop has
-// nothing left to do (fills, layouts, paints), and next to it the same
-// commands are replayed straight through the IOManager on the same
+// nothing left to do (fills, layouts, paints), and next to it the flow's
+// transcript (every command the controller received, each read as often as
+// the flow asked it) is replayed straight through the IOManager on the same
 // controller. The link costs a fixed time per exchange (0 and 100 us); the
 // ratio flow / replay at 100 us is what the module adds to the wait.
 //
@@ -22,7 +23,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPushButton>
-#include <QSet>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTimer>
@@ -120,24 +120,12 @@ struct Flow {
     BenchClock time[2]; // per latency
     BenchClock replay[2];
     int queries = 0;
-    int repeats = 0;
 };
 
-// Queries asked again with nothing written in between.
-int repeatedQueries(const QList<Entry> &log)
-{
-    QSet<QString> asked;
-    int repeats = 0;
-    for (const Entry &entry : log) {
-        if (entry.kind == Entry::Setting || entry.kind == Entry::Command)
-            asked.clear();
-        else if (entry.kind == Entry::Query && !asked.contains(entry.operation + entry.text))
-            asked.insert(entry.operation + entry.text);
-        else if (entry.kind == Entry::Query)
-            ++repeats;
-    }
-    return repeats;
-}
+// The goal for every flow: the module adds at most a tenth to the wait at
+// 100 us per exchange, or, where the replay is short, at most 5 ms.
+constexpr double RatioGoal = 1.10;
+constexpr double GuiGoalMs = 5.0;
 
 void settle()
 {
@@ -272,7 +260,6 @@ private:
         flow.queries = 0;
         for (const Entry &entry : log)
             flow.queries += entry.kind == Entry::Query;
-        flow.repeats = repeatedQueries(log);
         flow.replay[at].add(replay(log));
     }
 
@@ -374,26 +361,32 @@ int main(int argc, char **argv)
                          .arg(large.gripwands)
                          .arg(large.targets)
                          .arg(repeats),
-        { QStringLiteral("flow"), QStringLiteral("queries"), QStringLiteral("repeated"),
-            QStringLiteral("flow@0"), QStringLiteral("replay@0"), QStringLiteral("flow@100us"),
+        { QStringLiteral("flow"), QStringLiteral("queries"), QStringLiteral("flow@0"),
+            QStringLiteral("replay@0"), QStringLiteral("flow@100us"),
             QStringLiteral("replay@100us"), QStringLiteral("flow/replay@100us"),
-            QStringLiteral("GUI") });
+            QStringLiteral("GUI"), QStringLiteral("goal") });
     double worst = 0;
+    int missed = 0;
     for (const QString &name : qAsConst(order)) {
         const Flow &flow = flows[name];
         const double ratio = flow.replay[1].median() > 0
             ? double(flow.time[1].median()) / flow.replay[1].median()
             : 0;
         worst = qMax(worst, ratio);
-        table.addRow({ name, QString::number(flow.queries), QString::number(flow.repeats),
-            BenchTable::number(ms(flow.time[0].median()), 2),
-            BenchTable::number(ms(flow.replay[0].median()), 2),
-            BenchTable::number(ms(flow.time[1].median()), 2),
-            BenchTable::number(ms(flow.replay[1].median()), 2), BenchTable::number(ratio, 2),
-            BenchTable::number(guiMs(flow), 2) });
+        const bool met = ratio <= RatioGoal || guiMs(flow) <= GuiGoalMs;
+        missed += met ? 0 : 1;
+        table.addRow(
+            { name, QString::number(flow.queries), BenchTable::number(ms(flow.time[0].median()), 2),
+                BenchTable::number(ms(flow.replay[0].median()), 2),
+                BenchTable::number(ms(flow.time[1].median()), 2),
+                BenchTable::number(ms(flow.replay[1].median()), 2), BenchTable::number(ratio, 2),
+                BenchTable::number(guiMs(flow), 2),
+                met ? QStringLiteral("met") : QStringLiteral("missed") });
     }
     table.print();
-    std::printf("worst flow/replay at 100 us: %.2f\n\n", worst);
+    std::printf(
+        "worst flow/replay at 100 us: %.2f; flows over %.2fx and %.0f ms of GUI work: %d\n\n",
+        worst, RatioGoal, GuiGoalMs, missed);
 
     // Per-row cost: the same flows with fewer standard bodies.
     BenchTable scale(QStringLiteral("Standard table, GUI ms by number of standard bodies"),
