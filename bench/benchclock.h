@@ -4,15 +4,14 @@
 #include <QVector>
 #include <QtGlobal>
 
-// Collects the times of repeated runs of one piece of work. The median is
-// what the tables print: a single slow run (a page fault, the machine's other
-// core busy) moves it less than it moves the mean.
+// Collects the times of repeated runs of one piece of work. The tables print
+// the fastest: on a machine shared with other builds a run can only be
+// slowed down by them, never sped up, so the fastest is the least disturbed.
 class BenchClock
 {
 public:
     void add(qint64 nanoseconds) { m_samples.append(nanoseconds); }
     int count() const { return m_samples.size(); }
-    qint64 median() const;
     qint64 minimum() const;
 
 private:
