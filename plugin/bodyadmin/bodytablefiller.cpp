@@ -157,6 +157,8 @@ void BodyTableFiller::setUp(QTableWidget *table, const QStringList &headers)
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // Tab goes on to the next control, not through every cell.
+    table->setTabKeyNavigation(false);
 }
 
 void BodyTableFiller::stretchColumn(QTableWidget *table, int column)
