@@ -65,11 +65,17 @@ add_custom_target(debian_docs ALL DEPENDS ${_debian_build}/changelog.gz
     ${_debian_build}/velora-demo.1.gz)
 install(FILES ${_debian_build}/velora-demo.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
     COMPONENT runtime)
+# A deliberate lintian finding is overridden in
+# debian/<package>.lintian-overrides, with a comment saying why.
 foreach(component runtime dev)
     string(TOUPPER ${component} _upper)
+    set(_package ${TRACKING_${_upper}_PACKAGE})
     install(FILES ${_debian_source}/copyright ${_debian_build}/changelog.gz
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${TRACKING_${_upper}_PACKAGE}
-        COMPONENT ${component})
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${_package} COMPONENT ${component})
+    if(EXISTS ${_debian_source}/${_package}.lintian-overrides)
+        install(FILES ${_debian_source}/${_package}.lintian-overrides RENAME ${_package}
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides COMPONENT ${component})
+    endif()
 endforeach()
 
 set(CPACK_PACKAGE_NAME ${TRACKING_RUNTIME_PACKAGE})
