@@ -14,8 +14,9 @@
 // exchange() and turns the reply into what the caller asked for; it keeps
 // the message subscriptions and delivers messages to them. Replace
 // exchange() with the transport to a real controller. Until then it answers
-// reads from a table of parameter values and takes every setting into it,
-// which is enough for every dialog to open.
+// reads from a table of parameter values, stores settings of the paths it
+// holds and accepts every meta command, which is enough for every dialog to
+// open.
 class MinimalIOManager : public IOManager
 {
 public:
