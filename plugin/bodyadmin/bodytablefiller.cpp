@@ -178,9 +178,22 @@ void BodyTableFiller::applyHeaderModes(QTableWidget *table)
         return;
     }
     header->setStretchLastSection(false);
-    for (int c = 0; c < header->count(); ++c)
+    // The stretched column is never squeezed below its contents ("Room
+    // ref…"): where the others leave too little room, it fits its contents
+    // too and the table scrolls.
+    const QAbstractItemView *view = table;
+    const auto contentWidth = [view, header](int column) {
+        return qMax(header->sectionSizeHint(column), view->sizeHintForColumn(column));
+    };
+    int room = table->viewport()->width();
+    for (int c = 0; c < header->count(); ++c) {
         header->setSectionResizeMode(
             c, c == stretch ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+        if (c != stretch && !header->isSectionHidden(c))
+            room -= contentWidth(c);
+    }
+    if (stretch < header->count() && room < contentWidth(stretch))
+        header->setSectionResizeMode(stretch, QHeaderView::ResizeToContents);
 }
 
 void BodyTableFiller::showMaximumReached(
