@@ -158,7 +158,7 @@ DemoOptions::Outcome DemoOptions::parse(
         return Error;
     }
     if (!parser.positionalArguments().isEmpty()) {
-        *message = tr("Unexpected argument: %1").arg(parser.positionalArguments().first());
+        *message = tr("Unexpected argument: %1").arg(parser.positionalArguments().constFirst());
         return Error;
     }
     if (parser.isSet(helpOption) || helpAll) {
@@ -213,7 +213,7 @@ DemoOptions::Outcome DemoOptions::parse(
         const QString text = parser.value(v.option);
         if (!parseVersion(text, v.version)) {
             *message = tr("--%1 wants MAJOR.MINOR.PATCH, not \"%2\"")
-                           .arg(v.option.names().first(), text);
+                           .arg(v.option.names().constFirst(), text);
             return Error;
         }
         *v.isSet = true;
@@ -302,7 +302,8 @@ QStringList DemoOptions::scenarioList()
 {
     const QString installed = installedOrBuilt(TRACKING_INSTALLED_SCENARIOS, "");
     QStringList lines;
-    for (const QString &file : sim::SimulatedController::builtInScenarios()) {
+    const QStringList builtIn = sim::SimulatedController::builtInScenarios();
+    for (const QString &file : builtIn) {
         const QString name = QFileInfo(file).completeBaseName();
         const QString copy = QDir(installed).filePath(QFileInfo(file).fileName());
         lines << (!installed.isEmpty() && QFileInfo(copy).isFile() ? name + QLatin1Char('\t') + copy
@@ -317,7 +318,8 @@ QString DemoOptions::scenarioFile(const QString &scenario)
         return sim::SimulatedController::defaultScenario();
     if (QFileInfo(scenario).isFile())
         return scenario;
-    for (const QString &file : sim::SimulatedController::builtInScenarios()) {
+    const QStringList builtIn = sim::SimulatedController::builtInScenarios();
+    for (const QString &file : builtIn) {
         if (QFileInfo(file).completeBaseName() == scenario)
             return file;
     }

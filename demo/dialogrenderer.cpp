@@ -48,7 +48,7 @@ void DialogRenderer::open(const std::function<void()> &trigger)
     QWidget *outer = QApplication::activeModalWidget();
     QTimer poll;
     poll.setInterval(5);
-    QObject::connect(&poll, &QTimer::timeout, [&] {
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         QWidget *modal = QApplication::activeModalWidget();
         if (!modal || modal == outer || !modal->isVisible())
             return;
@@ -103,6 +103,7 @@ void DialogRenderer::save(QWidget *widget, QWidget *window, const QString &name)
         m_files << file;
     else
         m_problems << tr("%1: cannot be written").arg(file);
-    for (const QString &clash : AcceleratorCheck::clashes(window))
+    const QStringList clashes = AcceleratorCheck::clashes(window);
+    for (const QString &clash : clashes)
         m_clashes << QStringLiteral("%1: %2").arg(file, clash);
 }

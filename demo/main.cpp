@@ -61,9 +61,11 @@ int main(int argc, char *argv[])
             out << QCoreApplication::applicationName() << ' '
                 << QCoreApplication::applicationVersion() << '\n';
             return 0;
-        case DemoOptions::ListScenarios:
-            for (const QString &line : DemoOptions::scenarioList())
+        case DemoOptions::ListScenarios: {
+            const QStringList lines = DemoOptions::scenarioList();
+            for (const QString &line : lines)
                 out << line << '\n';
+        }
             return 0;
         case DemoOptions::Run:
             break;
@@ -84,7 +86,8 @@ int main(int argc, char *argv[])
     }
     QApplication app(argc, argv);
     if (!options.language.isEmpty()) {
-        for (const QString &missing : DemoOptions::installTranslations(options.language, &app))
+        const QStringList missingFiles = DemoOptions::installTranslations(options.language, &app);
+        for (const QString &missing : missingFiles)
             err << DemoOptions::tr("No translation %1; its texts stay in English.").arg(missing)
                 << '\n';
     }
@@ -124,10 +127,12 @@ int main(int argc, char *argv[])
         window.show();
         window.logWindow()->show();
         DialogRenderer renderer(folder);
-        for (const QString &file :
-            renderer.render(window.moduleActions(), { &window, window.logWindow() }))
+        const QStringList files
+            = renderer.render(window.moduleActions(), { &window, window.logWindow() });
+        for (const QString &file : files)
             out << file << '\n';
-        for (const QString &problem : renderer.problems() + renderer.clashes())
+        const QStringList problems = renderer.problems() + renderer.clashes();
+        for (const QString &problem : problems)
             err << problem << '\n';
         result = renderer.problems().isEmpty() ? 0 : 1;
         window.close();

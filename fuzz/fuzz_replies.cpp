@@ -27,13 +27,21 @@
 namespace
 {
 
+constexpr int MaxCount = 200;
+
 void applyRule(sim::SimulatedController &controller, const QByteArray &line)
 {
     const QByteArray word = line.left(line.indexOf(' '));
     const QByteArray rest = line.mid(word.size() + 1);
     const int equals = rest.indexOf(" = ");
     const QString pattern = QString::fromLatin1(equals < 0 ? rest : rest.left(equals));
-    const QByteArray text = equals < 0 ? QByteArray() : rest.mid(equals + 3);
+    QByteArray text = equals < 0 ? QByteArray() : rest.mid(equals + 3);
+    // The module asks as many bodies, targets and presets as the controller
+    // counts; a count in the millions is a slow input, not a finding.
+    bool number = false;
+    if ((pattern.contains(QLatin1String("number")) || pattern.endsWith(QLatin1Char('*')))
+        && text.trimmed().toLongLong(&number) > MaxCount && number)
+        text = QByteArray::number(MaxCount);
     BackendVersions &versions = controller.backendVersions();
     if (word == "version") {
         const QList<QByteArray> parts = rest.split('.');

@@ -168,7 +168,8 @@ void Scenario::parseDirective(const QString &directive, const QString &rawArgume
             m_versions.systemType = argument;
     } else if (directive == QLatin1String("@present")) {
         static const QRegularExpression targetId(QStringLiteral("^t\\d{2,}$"));
-        for (const QString &id : argument.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const QStringList ids = argument.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        for (const QString &id : ids) {
             if (!targetId.match(id).hasMatch())
                 addError(number, QStringLiteral("bad target id \"%1\"").arg(id));
             else if (!m_present.contains(id))

@@ -175,6 +175,6 @@ int BodyLoader::referenceNumber() const
     const QStringList parts = reply.split(QLatin1Char(' '));
     // Only standard bodies can be the reference: "standard b03".
     return parts.size() >= 2 && parts.at(0) == QLatin1String("standard")
-        ? parts.at(1).mid(1).toInt()
+        ? parts.at(1).midRef(1).toInt()
         : 0;
 }

@@ -163,6 +163,8 @@ void BodyTableFiller::setUp(QTableWidget *table, const QStringList &headers)
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // Tab goes on to the next control, not through every cell.
+    table->setTabKeyNavigation(false);
 }
 
 void BodyTableFiller::stretchColumn(QTableWidget *table, int column)
@@ -182,9 +184,22 @@ void BodyTableFiller::applyHeaderModes(QTableWidget *table)
         return;
     }
     header->setStretchLastSection(false);
+    // The stretched column is never squeezed below its contents ("Room
+    // ref…"): where the others leave too little room, it fits its contents
+    // too and the table scrolls.
+    const QAbstractItemView *view = table;
+    const auto contentWidth = [view, header](int column) {
+        return qMax(header->sectionSizeHint(column), view->sizeHintForColumn(column));
+    };
+    int room = table->viewport()->width();
+    for (int c = 0; c < header->count(); ++c) {
+        if (c != stretch && !header->isSectionHidden(c))
+            room -= contentWidth(c);
+    }
+    const bool squeezed = stretch < header->count() && room < contentWidth(stretch);
     for (int c = 0; c < header->count(); ++c) {
         const QHeaderView::ResizeMode mode
-            = c == stretch ? QHeaderView::Stretch : QHeaderView::ResizeToContents;
+            = c == stretch && !squeezed ? QHeaderView::Stretch : QHeaderView::ResizeToContents;
         // A mode set again still has the header measure every row of every
         // column once more; each resize of the tab would pay for it.
         if (header->sectionResizeMode(c) != mode)

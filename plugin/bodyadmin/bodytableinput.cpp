@@ -84,18 +84,26 @@ bool BodyTableInput::eventFilter(QObject *watched, QEvent *event)
     return table && !m_tab->typeOf(table).isEmpty() && tableKey(table, key);
 }
 
-// F2 edits the name, Delete deletes the body, Space on a check cell clicks it.
+// F2 edits the name, Delete deletes the body, Space on a check cell clicks
+// it. Enter edits the name too, as in a spreadsheet (a table without names
+// moves on a row): it must not press the dialog's default button.
 bool BodyTableInput::tableKey(QTableWidget *table, int key)
 {
     const BodyTypeEntry &e = *m_tab->entry(m_tab->typeOf(table));
     if (key == Qt::Key_Space)
         return pressCheckCell(table, e);
     const int row = table->currentRow();
-    if ((key != Qt::Key_F2 && key != Qt::Key_Delete) || !e.contains(row))
-        return false;
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (enter && e.columnOf(NameColumn) < 0) {
+        if (row + 1 < table->rowCount())
+            table->setCurrentCell(row + 1, qMax(table->currentColumn(), 0));
+        return true;
+    }
+    if ((key != Qt::Key_F2 && key != Qt::Key_Delete && !enter) || !e.contains(row))
+        return enter;
     if (m_tab->locked)
         return true;
-    if (key == Qt::Key_F2) {
+    if (key != Qt::Key_Delete) {
         if (QTableWidgetItem *name = table->item(row, e.columnOf(NameColumn)))
             table->editItem(name);
     } else {

@@ -108,6 +108,7 @@ void FingertrackingAdministration::updateView()
 {
     BodyTableFiller::showMaximumReached(ui->label_error_fingertracking, ui->spinBox_fingertracking,
         tr("<b><font color=red>Max. number of Hands is reached!</font></b>"));
+    BodyTableFiller::stretchColumn(ui->tableWidget_fingertracking, NameCol);
 }
 
 void FingertrackingAdministration::update_tab()

@@ -194,6 +194,7 @@ void GripwandAdministration::updateView()
 {
     BodyTableFiller::showMaximumReached(ui->label_error, ui->spinBox_gripwands,
         tr("<b><font color=red>Max. number of gripwands is reached!</font></b>"));
+    applyHeaderModes();
     emit selection_changed();
 }
 

@@ -119,6 +119,7 @@ void TargetStatus::setUpTable(QTableWidget *table)
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setSectionsClickable(false);
     // The long name gets the room; ids and states are short.

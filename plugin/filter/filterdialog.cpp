@@ -86,7 +86,8 @@ FilterDialog::FilterDialog(IOManager *ioManager, QWidget *parent, BackendVersion
     for (Preset &preset : presets)
         preset.usableWithInertialSensor = fitsInertialSensor(preset.id);
     readLimits();
-    for (const Preset &mode : readList(ListKind::Modes))
+    const QList<Preset> modes = readList(ListKind::Modes);
+    for (const Preset &mode : modes)
         ui->comboBox_mode->addItem(mode.description, mode.id);
     // No mode is shown until a body's is read.
     ui->comboBox_mode->setCurrentIndex(-1);

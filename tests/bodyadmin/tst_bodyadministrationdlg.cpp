@@ -226,9 +226,7 @@ private slots:
     void transcripts()
     {
         const QString flow = fetch<QString>("flow");
-        QFile scenario(QFINDTESTDATA("threebodies.scn"));
-        QVERIFY(scenario.open(QIODevice::ReadOnly));
-        QVERIFY(f.controller->loadScenarioText(QString::fromUtf8(scenario.readAll()), "three"));
+        QVERIFY(f.controller->loadScenario(TRACKING_TEST_DATA "/threebodies.scn"));
         if (flow == "open" || flow == "locked") {
             f.build();
             const bool locked = flow == "locked";

@@ -54,26 +54,6 @@ private slots:
         QCOMPARE(body.isReference, asked.contains('t'));
     }
 
-    void calibrationText_data()
-    {
-        // State letters: calibrated, library, re-calibrated, sensor, hand-eye.
-        columns<QString, QString>({ "state", "text" });
-        row("uncalibrated", QString("lrsh"), "not calibrated");
-        row("custom, re-calibrated", QString("cr"), "Custom, re-calibrated");
-        row("sensor without hand-eye", QString("clrs"), "Optical");
-    }
-    void calibrationText()
-    {
-        const QString state = fetch<QString>("state");
-        BodyRecord body;
-        body.calibrated = state.contains('c');
-        body.targetLibraryName = state.contains('l') ? "GL-5" : "";
-        body.recalibrated = state.contains('r');
-        body.inertialSensor = state.contains('s') ? "S" : "";
-        body.hybridCalibrated = state.contains('h');
-        QCOMPARE(BodyLoader::calibrationText(body), fetch<QString>("text"));
-    }
-
     void filterText_data()
     {
         columns<QString, QString, QString>({ "enabled", "preset", "text" });
@@ -117,6 +97,7 @@ private slots:
         CommandChannel channel(&controller, &controller.backendVersions());
         QCOMPARE(BodyLoader(channel).load(fetch<QString>("type"), fetch<int>("index")).isReference,
             fetch<bool>("reference"));
+        QCOMPARE(controller.commands().count("tracking reference"), 1); // for any type
     }
 
     void failedQueriesAreReported()

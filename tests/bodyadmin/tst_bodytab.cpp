@@ -234,27 +234,32 @@ private slots:
 
     void rename_data()
     {
-        columns<QStringList, bool, QString, QString, QStringList>(
-            { "setUp", "doubleClick", "typed", "shown", "events" });
+        // how: "F2", "Enter" or "double click"
+        columns<QStringList, QString, QString, QString, QStringList>(
+            { "setUp", "how", "typed", "shown", "events" });
         // Neither a double quote nor a backslash can be typed, and at most
         // 100 characters: the allowed ones and 81 x.
         const QString allowed = "a-b_c+d=e.f,g;h:i/j";
         const QString kept = allowed + QString(81, 'x');
-        row("F2", QStringList(), false, "Tool 4", "Tool 4", L("body desc standard b04 \"Tool 4\""));
-        row("double click, what can be typed", QStringList(), true,
+        row("F2", QStringList(), QString("F2"), "Tool 4", "Tool 4",
+            L("body desc standard b04 \"Tool 4\""));
+        row("Enter edits the name as in a spreadsheet", QStringList(), QString("Enter"), "T", "T",
+            L("body desc standard b04 \"T\""));
+        row("double click, what can be typed", QStringList(), QString("double click"),
             allowed + "\"\\" + QString(100, 'x'), kept,
             QStringList { "body desc standard b04 \"" + kept + '"' });
-        row("a refused rename is reported", L("!body desc standard b04 *"), false, "X", "X",
+        row("a refused rename is reported", L("!body desc standard b04 *"), QString("F2"), "X", "X",
             L("body desc standard b04 \"X\" | ! Error: Unable to set description of body "
               "standard b04"));
     }
     void rename()
     {
         f.open(0, fetch<QStringList>("setUp"));
-        if (fetch<bool>("doubleClick"))
+        const QString how = fetch<QString>("how");
+        if (how == "double click")
             BodyAdminFixture::click(f.table(), 3, Name, true);
         else
-            BodyAdminFixture::go(f.table(), 3, 0, Qt::Key_F2);
+            BodyAdminFixture::go(f.table(), 3, 0, how == "F2" ? Qt::Key_F2 : Qt::Key_Return);
         auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
         QVERIFY(editor);
         QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
@@ -264,6 +269,8 @@ private slots:
 
         QCOMPARE(f.table()->item(3, Name)->text(), fetch<QString>("shown"));
         QVERIFY(f.dialog->isVisible()); // Enter ended the edit, not the dialog
+        QTest::keyClick(f.table(), Qt::Key_Tab); // and Tab leaves the table
+        QVERIFY(QApplication::focusWidget() != f.table());
         f.tab->update_tab();
         QCOMPARE(f.events, fetch<QStringList>("events")); // a refill sends no name
     }
@@ -285,6 +292,10 @@ private slots:
         row("only the last body is looked at", L("tracking reference = standard b03"), "2", 0,
             L("standard number_of_bodies 2"), 2);
         row("arrow up", QStringList(), "Up", 0, L("standard number_of_bodies 5"), 5);
+        row("typed past the maximum: the maximum", QStringList(), "25", 0,
+            L("standard number_of_bodies 20"), 20);
+        row("pasted past the maximum: the maximum", QStringList(), "paste 99", 0,
+            L("standard number_of_bodies 20"), 20);
         row("a refused count stays, reported", L("!standard number_of_bodies 5"), "5", 0,
             L("standard number_of_bodies 5 | ! Error: Unable to set number of standard bodies to 5 "
               "| ! Error: Unable to get description of body standard b05  | ! Error: Unable to get "
@@ -304,6 +315,11 @@ private slots:
         spinBox->setFocus();
         if (typed == "Up") {
             QTest::keyClick(spinBox, Qt::Key_Up);
+        } else if (typed.startsWith("paste ")) {
+            QApplication::clipboard()->setText(typed.mid(6));
+            spinBox->selectAll();
+            QTest::keyClick(spinBox, Qt::Key_V, Qt::ControlModifier);
+            QTest::keyClick(spinBox, Qt::Key_Return);
         } else {
             spinBox->selectAll();
             QTest::keyClicks(spinBox, typed);

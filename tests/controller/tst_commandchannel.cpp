@@ -154,22 +154,6 @@ private slots:
         CommandChannel(nullptr, nullptr).report(text); // nobody listens: no crash
     }
 
-    // What the channel heard in one burst of GUI work it does not ask again.
-    // Nothing is remembered: a read asked again in the same burst of work,
-    // by the same or another channel on the link, reaches the controller.
-    void everyReadReachesTheController()
-    {
-        sim::SimulatedController controller;
-        controller.setValue("status active", "none");
-        CommandChannel dialog(&controller, &controller.backendVersions());
-        CommandChannel tab(&controller, &controller.backendVersions());
-        QCOMPARE(dialog.stringOf("status active"), "none");
-        controller.setValue("status active", "cal");
-        QCOMPARE(tab.stringOf("status active"), "cal");
-        QCOMPARE(dialog.stringOf("status active"), "cal");
-        QCOMPARE(controller.commands().count("status active"), 3);
-    }
-
     void lineBreaksStayInReplies()
     {
         sim::SimulatedController controller;
