@@ -186,25 +186,27 @@ void BodyTableFiller::applyHeaderModes(QTableWidget *table)
     header->setStretchLastSection(false);
     // The stretched column is never squeezed below its contents ("Room
     // ref…"): where the others leave too little room, it fits its contents
-    // too and the table scrolls.
-    const QAbstractItemView *view = table;
-    const auto contentWidth = [view, header](int column) {
-        return qMax(header->sectionSizeHint(column), view->sizeHintForColumn(column));
+    // too and the table scrolls. The others' contents are measured once, by
+    // the header sizing them (now, not later), and read back from it: a
+    // measurement of our own would walk every row of every column again.
+    const auto setMode = [header](int column, QHeaderView::ResizeMode mode) {
+        // A mode set again has the header measure every column once more.
+        if (header->sectionResizeMode(column) != mode)
+            header->setSectionResizeMode(column, mode);
     };
-    int room = table->viewport()->width();
-    for (int c = 0; c < header->count(); ++c) {
-        if (c != stretch && !header->isSectionHidden(c))
-            room -= contentWidth(c);
-    }
-    const bool squeezed = stretch < header->count() && room < contentWidth(stretch);
-    for (int c = 0; c < header->count(); ++c) {
-        const QHeaderView::ResizeMode mode
-            = c == stretch && !squeezed ? QHeaderView::Stretch : QHeaderView::ResizeToContents;
-        // A mode set again still has the header measure every row of every
-        // column once more; each resize of the tab would pay for it.
-        if (header->sectionResizeMode(c) != mode)
-            header->setSectionResizeMode(c, mode);
-    }
+    // Until measured, the stretched column keeps what it had; a column
+    // number beyond the table leaves every column to its contents.
+    const bool inTable = stretch < header->count();
+    const bool squeezed
+        = !inTable || header->sectionResizeMode(stretch) == QHeaderView::ResizeToContents;
+    for (int c = 0; c < header->count(); ++c)
+        setMode(c, c != stretch || squeezed ? QHeaderView::ResizeToContents : QHeaderView::Stretch);
+    if (!inTable)
+        return;
+    const int room = table->viewport()->width() - header->length() + header->sectionSize(stretch);
+    const QAbstractItemView *view = table;
+    const int content = qMax(header->sectionSizeHint(stretch), view->sizeHintForColumn(stretch));
+    setMode(stretch, room < content ? QHeaderView::ResizeToContents : QHeaderView::Stretch);
 }
 
 void BodyTableFiller::showMaximumReached(
