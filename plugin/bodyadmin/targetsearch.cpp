@@ -251,9 +251,12 @@ void TargetSearch::showCounts()
     if (!m_widgets.resultLabel)
         return;
     const int progress = m_widgets.progressBar ? m_widgets.progressBar->value() : 0;
-    if (progress < 1 || progress >= 100)
-        m_widgets.resultLabel->clear();
-    else
+    // Clearing an empty label still has the page laid out and the whole
+    // dialog painted again, at every idle tick.
+    if (progress < 1 || progress >= 100) {
+        if (!m_widgets.resultLabel->text().isEmpty())
+            m_widgets.resultLabel->clear();
+    } else
         m_widgets.resultLabel->setText(
             tr("found targets: %1, already calibrated: %2").arg(m_foundTargets).arg(calibrated));
 }
