@@ -125,7 +125,8 @@ void TargetAssignment::endRefresh()
         w.bodyTable->setCurrentCell(bodyRow, 0);
     if (w.targetTable && targetRow >= 0 && targetRow < w.targetTable->rowCount())
         w.targetTable->setCurrentCell(targetRow, 0);
-    if (w.resultLabel)
+    // Clearing an empty label still lays the page out and repaints it.
+    if (w.resultLabel && !w.resultLabel->text().isEmpty())
         w.resultLabel->clear();
     if (w.progressBar)
         w.progressBar->setValue(0);
