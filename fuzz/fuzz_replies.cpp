@@ -65,27 +65,48 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray input
         = QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size));
     const int clicksAt = input.indexOf("\n--\n");
-    sim::SimulatedController controller;
+    // It outlives the application: never deleted.
+    static sim::SimulatedController &controller = *new sim::SimulatedController;
+    controller.loadScenario(sim::SimulatedController::defaultScenario());
+    controller.clearInjections();
+    controller.clearLog();
     controller.setManualClock(true);
     for (const QByteArray &line : input.left(clicksAt).split('\n'))
         applyRule(controller, line);
     const int clicksFrom = clicksAt < 0 ? int(size) : clicksAt + 4;
     FuzzBytes bytes { data + clicksFrom, size - size_t(clicksFrom) };
-    Fuzzing::driveModals(&bytes);
+    Fuzzing::driveModals(&bytes, &controller);
 
     BackendVersions *versions = &controller.backendVersions();
-    {
-        BodyAdministrationDlg dialog(&controller, nullptr, versions);
-        for (int key = 0; key < 4; ++key) {
-            if (BodyTypeAdministrationTab *tab = dialog.tab(key))
-                tab->update_tab();
-        }
-        dialog.update_and_exec();
-        controller.advanceClock(100000);
-        dialog.update_and_exec();
-        FilterDialog(&controller, nullptr, versions).update_and_exec(bytes.pick(4), bytes.pick(3));
+    // The module builds its dialogs once and reloads them on every opening,
+    // so they live as long as the controller version they were built for:
+    // the version decides the tabs, and building them costs more than an
+    // input. Never deleted, as the controller.
+    static QString builtFor;
+    static BodyAdministrationDlg *admin = nullptr;
+    static TrackingDlg *tracking = nullptr;
+    const BackendVersions::Version &backend = versions->backendVersion,
+                                   &system = versions->systemVersion;
+    const QString version = versions->systemType
+        + QString::asprintf(" %d.%d.%d %d.%d.%d", backend.major, backend.minor, backend.patch,
+            system.major, system.minor, system.patch);
+    if (version != builtFor) {
+        delete admin; // one receiver at a time
+        delete tracking;
+        admin = new BodyAdministrationDlg(&controller, nullptr, versions);
+        tracking = new TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5"));
+        builtFor = version;
     }
-    TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5")).update_and_exec();
+    BodyAdministrationDlg &dialog = *admin;
+    for (int key = 0; key < 4; ++key) {
+        if (BodyTypeAdministrationTab *tab = dialog.tab(key))
+            tab->update_tab();
+    }
+    dialog.update_and_exec();
+    controller.advanceClock(100000);
+    dialog.update_and_exec();
+    FilterDialog(&controller, nullptr, versions).update_and_exec(bytes.pick(4), bytes.pick(3));
+    tracking->update_and_exec();
     Fuzzing::driveModals(nullptr);
 
     for (const QString &command : controller.commands()) {

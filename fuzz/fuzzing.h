@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include <simulatedcontroller.h>
+
 class QWidget;
 
 // Every target gets a headless QApplication and a private home.
@@ -37,8 +39,12 @@ void require(bool ok, const QString &what);
 void poke(QWidget *window, FuzzBytes &bytes);
 // While set, every modal dialog that opens is worked on with poke() and then
 // answered (Yes, No, OK, Cancel) from bytes; with none, modal dialogs are
-// rejected at once.
-void driveModals(FuzzBytes *bytes);
+// rejected at once. With a clock, time also passes: the clock advances and
+// the target search's timers fire (fireTimers()), as the bytes say.
+void driveModals(FuzzBytes *bytes, sim::SimulatedController *clock = nullptr);
+// The running timers of the target searches in window, each fired 0 to 3
+// times at once: no input waits for a timer.
+void fireTimers(QWidget *window, FuzzBytes &bytes);
 
 } // namespace Fuzzing
 
