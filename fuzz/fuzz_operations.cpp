@@ -79,15 +79,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static sim::SimulatedController &controller = *new sim::SimulatedController;
     static QWidget &parent = *new QWidget;
     static TrackingSettingBodyAdminModule &module = *new TrackingSettingBodyAdminModule;
-    controller.clearInjections();
     controller.clearLog();
     controller.setManualClock(true);
     // Dialogs built for one controller never meet another.
     static int scenario = -1;
     const int chosen = bytes.pick(4);
-    if (chosen != scenario)
+    if (qExchange(scenario, chosen) != chosen)
         module.cleanup();
-    scenario = chosen;
     controller.loadScenario(QStringLiteral(":/scenarios/%1.scn").arg(Scenarios[scenario]));
     for (int i = 0; i < 4; ++i)
         setProperty(module, controller, &parent, bytes);
@@ -117,8 +115,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
                 bytes.pick(2) ? Texts[bytes.pick(6)] : bytes.text(40).constData());
             break;
         case 5:
-            controller.advanceClock(bytes.pick(256) * 50);
-            Fuzzing::fireTimers(dialog, bytes);
+            Fuzzing::passTime(dialog, controller, bytes);
             QApplication::processEvents();
             break;
         case 6:

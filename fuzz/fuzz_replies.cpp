@@ -29,7 +29,8 @@ namespace
 
 constexpr int MaxCount = 200;
 
-void applyRule(sim::SimulatedController &controller, const QByteArray &line)
+// True for a rule that decides which tabs the dialog has.
+bool applyRule(sim::SimulatedController &controller, const QByteArray &line)
 {
     const QByteArray word = line.left(line.indexOf(' '));
     const QByteArray rest = line.mid(word.size() + 1);
@@ -56,6 +57,7 @@ void applyRule(sim::SimulatedController &controller, const QByteArray &line)
     } else if (equals > 0 && (word == "reply" || word == "once" || word == "open")) {
         controller.replaceReply(pattern, text, word == "once" ? 1 : -1, word == "open");
     }
+    return word == "version" || word == "system";
 }
 
 } // namespace
@@ -71,8 +73,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     controller.clearInjections();
     controller.clearLog();
     controller.setManualClock(true);
-    for (const QByteArray &line : input.left(clicksAt).split('\n'))
-        applyRule(controller, line);
+    QByteArray version; // the rules that decide the dialogs' tabs
+    for (const QByteArray &line : input.left(clicksAt).split('\n')) {
+        if (applyRule(controller, line))
+            version += line + '\n';
+    }
     const int clicksFrom = clicksAt < 0 ? int(size) : clicksAt + 4;
     FuzzBytes bytes { data + clicksFrom, size - size_t(clicksFrom) };
     Fuzzing::driveModals(&bytes, &controller);
@@ -82,29 +87,23 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // so they live as long as the controller version they were built for:
     // the version decides the tabs, and building them costs more than an
     // input. Never deleted, as the controller.
-    static QString builtFor;
+    static QByteArray builtFor;
     static BodyAdministrationDlg *admin = nullptr;
     static TrackingDlg *tracking = nullptr;
-    const BackendVersions::Version &backend = versions->backendVersion,
-                                   &system = versions->systemVersion;
-    const QString version = versions->systemType
-        + QString::asprintf(" %d.%d.%d %d.%d.%d", backend.major, backend.minor, backend.patch,
-            system.major, system.minor, system.patch);
-    if (version != builtFor) {
+    if (!admin || version != builtFor) {
         delete admin; // one receiver at a time
         delete tracking;
         admin = new BodyAdministrationDlg(&controller, nullptr, versions);
         tracking = new TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5"));
         builtFor = version;
     }
-    BodyAdministrationDlg &dialog = *admin;
     for (int key = 0; key < 4; ++key) {
-        if (BodyTypeAdministrationTab *tab = dialog.tab(key))
+        if (BodyTypeAdministrationTab *tab = admin->tab(key))
             tab->update_tab();
     }
-    dialog.update_and_exec();
+    admin->update_and_exec();
     controller.advanceClock(100000);
-    dialog.update_and_exec();
+    admin->update_and_exec();
     FilterDialog(&controller, nullptr, versions).update_and_exec(bytes.pick(4), bytes.pick(3));
     tracking->update_and_exec();
     Fuzzing::driveModals(nullptr);

@@ -61,10 +61,8 @@ void actOnModal()
     FuzzBytes none { nullptr, 0 };
     FuzzBytes &bytes = modalBytes ? *modalBytes : none;
     const int action = sameModalTicks < 40 ? bytes.pick(4) : 0;
-    if (action == 3 && modalClock) {
-        modalClock->advanceClock(bytes.pick(16) * 100);
-        Fuzzing::fireTimers(modal, bytes);
-    }
+    if (action == 3 && modalClock)
+        Fuzzing::passTime(modal, *modalClock, bytes);
     if (action != 0) {
         Fuzzing::poke(modal, bytes);
         return;
@@ -119,11 +117,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
-    // The preferences file goes there; in memory, as the file system's sync
-    // on every write is not what the targets test.
-    static QTemporaryDir home(QDir(QStringLiteral("/dev/shm")).exists()
-            ? QStringLiteral("/dev/shm/fuzz-XXXXXX")
-            : QDir::tempPath() + QStringLiteral("/fuzz-XXXXXX"));
+    static QTemporaryDir home; // the preferences file goes there
     qputenv("HOME", QFile::encodeName(home.path()));
     new QApplication(qtArgc, qtArgv);
     qApp->installEventFilter(new Unpainted);
@@ -187,8 +181,9 @@ void driveModals(FuzzBytes *bytes, sim::SimulatedController *clock)
     modalClock = clock;
 }
 
-void fireTimers(QWidget *window, FuzzBytes &bytes)
+void passTime(QWidget *window, sim::SimulatedController &clock, FuzzBytes &bytes)
 {
+    clock.advanceClock(bytes.pick(256) * 50);
     for (TargetSearch *search : window->findChildren<TargetSearch *>()) {
         for (QTimer *timer : { search->measurementTimer(), search->statusTimer() }) {
             for (int times = bytes.pick(4); times > 0 && timer->isActive(); --times) {

@@ -39,12 +39,11 @@ void require(bool ok, const QString &what);
 void poke(QWidget *window, FuzzBytes &bytes);
 // While set, every modal dialog that opens is worked on with poke() and then
 // answered (Yes, No, OK, Cancel) from bytes; with none, modal dialogs are
-// rejected at once. With a clock, time also passes: the clock advances and
-// the target search's timers fire (fireTimers()), as the bytes say.
+// rejected at once. With a clock, time also passes there (passTime()).
 void driveModals(FuzzBytes *bytes, sim::SimulatedController *clock = nullptr);
-// The running timers of the target searches in window, each fired 0 to 3
-// times at once: no input waits for a timer.
-void fireTimers(QWidget *window, FuzzBytes &bytes);
+// Up to 12.75 s pass on the clock, and the running timers of the target
+// searches in window fire 0 to 3 times each at once: no input waits for one.
+void passTime(QWidget *window, sim::SimulatedController &clock, FuzzBytes &bytes);
 
 } // namespace Fuzzing
 
