@@ -110,7 +110,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     for (const QString &command : controller.commands()) {
         for (const QChar c : command)
-            Fuzzing::require(c >= QLatin1Char(' '), "a command carries a control character");
+            Fuzzing::require(c >= QLatin1Char(' '),
+                "a control character in: " + command.toUtf8().toPercentEncoding(" "));
     }
     for (const QString &report : controller.reports())
         Fuzzing::require(!report.trimmed().isEmpty(), "an empty report");
