@@ -61,8 +61,11 @@ void actOnModal()
     FuzzBytes none { nullptr, 0 };
     FuzzBytes &bytes = modalBytes ? *modalBytes : none;
     const int action = sameModalTicks < 40 ? bytes.pick(4) : 0;
-    if (action == 3 && modalClock)
+    if (action == 3 && modalClock) {
+        // Nothing more on this modal: the timers may have closed it.
         Fuzzing::passTime(modal, *modalClock, bytes);
+        return;
+    }
     if (action != 0) {
         Fuzzing::poke(modal, bytes);
         return;
