@@ -29,7 +29,8 @@ namespace
 
 constexpr int MaxCount = 200;
 
-void applyRule(sim::SimulatedController &controller, const QByteArray &line)
+// True for a rule that decides which tabs the dialog has.
+bool applyRule(sim::SimulatedController &controller, const QByteArray &line)
 {
     const QByteArray word = line.left(line.indexOf(' '));
     const QByteArray rest = line.mid(word.size() + 1);
@@ -56,6 +57,7 @@ void applyRule(sim::SimulatedController &controller, const QByteArray &line)
     } else if (equals > 0 && (word == "reply" || word == "once" || word == "open")) {
         controller.replaceReply(pattern, text, word == "once" ? 1 : -1, word == "open");
     }
+    return word == "version" || word == "system";
 }
 
 } // namespace
@@ -65,32 +67,51 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray input
         = QByteArray::fromRawData(reinterpret_cast<const char *>(data), int(size));
     const int clicksAt = input.indexOf("\n--\n");
-    sim::SimulatedController controller;
+    // It outlives the application: never deleted.
+    static sim::SimulatedController &controller = *new sim::SimulatedController;
+    controller.loadScenario(sim::SimulatedController::defaultScenario());
+    controller.clearInjections();
+    controller.clearLog();
     controller.setManualClock(true);
-    for (const QByteArray &line : input.left(clicksAt).split('\n'))
-        applyRule(controller, line);
+    QByteArray version; // the rules that decide the dialogs' tabs
+    for (const QByteArray &line : input.left(clicksAt).split('\n')) {
+        if (applyRule(controller, line))
+            version += line + '\n';
+    }
     const int clicksFrom = clicksAt < 0 ? int(size) : clicksAt + 4;
     FuzzBytes bytes { data + clicksFrom, size - size_t(clicksFrom) };
-    Fuzzing::driveModals(&bytes);
+    Fuzzing::driveModals(&bytes, &controller);
 
     BackendVersions *versions = &controller.backendVersions();
-    {
-        BodyAdministrationDlg dialog(&controller, nullptr, versions);
-        for (int key = 0; key < 4; ++key) {
-            if (BodyTypeAdministrationTab *tab = dialog.tab(key))
-                tab->update_tab();
-        }
-        dialog.update_and_exec();
-        controller.advanceClock(100000);
-        dialog.update_and_exec();
-        FilterDialog(&controller, nullptr, versions).update_and_exec(bytes.pick(4), bytes.pick(3));
+    // The module builds its dialogs once and reloads them on every opening,
+    // so they live as long as the controller version they were built for:
+    // the version decides the tabs, and building them costs more than an
+    // input. Never deleted, as the controller.
+    static QByteArray builtFor;
+    static BodyAdministrationDlg *admin = nullptr;
+    static TrackingDlg *tracking = nullptr;
+    if (!admin || version != builtFor) {
+        delete admin; // one receiver at a time
+        delete tracking;
+        admin = new BodyAdministrationDlg(&controller, nullptr, versions);
+        tracking = new TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5"));
+        builtFor = version;
     }
-    TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5")).update_and_exec();
+    for (int key = 0; key < 4; ++key) {
+        if (BodyTypeAdministrationTab *tab = admin->tab(key))
+            tab->update_tab();
+    }
+    admin->update_and_exec();
+    controller.advanceClock(100000);
+    admin->update_and_exec();
+    FilterDialog(&controller, nullptr, versions).update_and_exec(bytes.pick(4), bytes.pick(3));
+    tracking->update_and_exec();
     Fuzzing::driveModals(nullptr);
 
     for (const QString &command : controller.commands()) {
         for (const QChar c : command)
-            Fuzzing::require(c >= QLatin1Char(' '), "a command carries a control character");
+            Fuzzing::require(c >= QLatin1Char(' '),
+                "a control character in: " + command.toUtf8().toPercentEncoding(" "));
     }
     for (const QString &report : controller.reports())
         Fuzzing::require(!report.trimmed().isEmpty(), "an empty report");

@@ -1,5 +1,7 @@
 #include "fuzzing.h"
 
+#include <targetsearch.h>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
@@ -17,6 +19,7 @@ namespace
 {
 
 FuzzBytes *modalBytes = nullptr;
+sim::SimulatedController *modalClock = nullptr;
 QPointer<QWidget> lastModal;
 int sameModalTicks = 0;
 // Qt keeps references to argc and argv for the application's whole life.
@@ -57,7 +60,13 @@ void actOnModal()
     lastModal = modal;
     FuzzBytes none { nullptr, 0 };
     FuzzBytes &bytes = modalBytes ? *modalBytes : none;
-    if (sameModalTicks < 40 && bytes.pick(3) != 0) {
+    const int action = sameModalTicks < 40 ? bytes.pick(4) : 0;
+    if (action == 3 && modalClock) {
+        // Nothing more on this modal: the timers may have closed it.
+        Fuzzing::passTime(modal, *modalClock, bytes);
+        return;
+    }
+    if (action != 0) {
         Fuzzing::poke(modal, bytes);
         return;
     }
@@ -82,6 +91,20 @@ void answerModal()
         QMetaObject::invokeMethod(qApp, actOnModal, Qt::QueuedConnection);
 }
 
+// Windows are polished, laid out and shown as on a screen, but never
+// painted: the offscreen platform's painting took most of an input's time,
+// and the plug-in paints nothing of its own.
+class Unpainted : public QObject
+{
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::Polish && object->isWidgetType()
+            && static_cast<QWidget *>(object)->isWindow())
+            static_cast<QWidget *>(object)->setAttribute(Qt::WA_DontShowOnScreen);
+        return event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint;
+    }
+};
+
 } // namespace
 
 QByteArray FuzzBytes::text(int maxLength)
@@ -100,6 +123,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
     static QTemporaryDir home; // the preferences file goes there
     qputenv("HOME", QFile::encodeName(home.path()));
     new QApplication(qtArgc, qtArgv);
+    qApp->installEventFilter(new Unpainted);
     // The offscreen platform says so for every dialog shown.
     static const QtMessageHandler qtHandler = qInstallMessageHandler(nullptr);
     qInstallMessageHandler(
@@ -154,9 +178,23 @@ void poke(QWidget *window, FuzzBytes &bytes)
     }
 }
 
-void driveModals(FuzzBytes *bytes)
+void driveModals(FuzzBytes *bytes, sim::SimulatedController *clock)
 {
     modalBytes = bytes;
+    modalClock = clock;
+}
+
+void passTime(QWidget *window, sim::SimulatedController &clock, FuzzBytes &bytes)
+{
+    clock.advanceClock(bytes.pick(256) * 50);
+    for (TargetSearch *search : window->findChildren<TargetSearch *>()) {
+        for (QTimer *timer : { search->measurementTimer(), search->statusTimer() }) {
+            for (int times = bytes.pick(4); times > 0 && timer->isActive(); --times) {
+                QTimerEvent tick(timer->timerId());
+                QCoreApplication::sendEvent(timer, &tick);
+            }
+        }
+    }
 }
 
 } // namespace Fuzzing

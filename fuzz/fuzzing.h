@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include <simulatedcontroller.h>
+
 class QWidget;
 
 // Every target gets a headless QApplication and a private home.
@@ -37,8 +39,11 @@ void require(bool ok, const QString &what);
 void poke(QWidget *window, FuzzBytes &bytes);
 // While set, every modal dialog that opens is worked on with poke() and then
 // answered (Yes, No, OK, Cancel) from bytes; with none, modal dialogs are
-// rejected at once.
-void driveModals(FuzzBytes *bytes);
+// rejected at once. With a clock, time also passes there (passTime()).
+void driveModals(FuzzBytes *bytes, sim::SimulatedController *clock = nullptr);
+// Up to 12.75 s pass on the clock, and the running timers of the target
+// searches in window fire 0 to 3 times each at once: no input waits for one.
+void passTime(QWidget *window, sim::SimulatedController &clock, FuzzBytes &bytes);
 
 } // namespace Fuzzing
 

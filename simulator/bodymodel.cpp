@@ -162,7 +162,11 @@ QList<BodyModel::OwnedPath> BodyModel::ownedPaths(const QString &type, int numbe
     const QString id = bodyId(number);
     QList<OwnedPath> owned;
     const QStringList bodyPaths = m_table.pathsStartingWith(BodyGroup + QLatin1Char(' '));
+    // Splitting every body's paths made removing N bodies cost N squared splits.
+    const QString typeAndId = QLatin1Char(' ') + type + QLatin1Char(' ') + id;
     for (const QString &path : bodyPaths) {
+        if (!path.contains(typeAndId))
+            continue;
         const QStringList words = path.split(QLatin1Char(' '));
         if (words.size() >= 4 && words.at(2) == type && words.at(3) == id)
             owned.append({ words, 3 });

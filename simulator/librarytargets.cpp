@@ -3,6 +3,8 @@
 #include "bodymodel.h"
 #include "parametertable.h"
 
+#include <QHash>
+
 namespace sim
 {
 
@@ -89,26 +91,33 @@ void LibraryTargets::clearTracked()
 
 void LibraryTargets::checkCustomCalibration(const BodyModel &bodies)
 {
+    // Per body type, the first body calibrated without the library for each
+    // marker count: one pass over the bodies rather than one per target.
+    QHash<QString, QHash<QString, QString>> firstByMarkers;
     const QStringList targets = ids();
     for (const QString &id : targets) {
         const QString path = targetPath("target_status_calibrated_custom", id);
         if (!m_table.contains(path))
             continue;
         const QString type = bodyTypeOf(id);
-        const int markers = markersOf(id, 0);
-        QString match = QStringLiteral("none");
-        for (int number = 1; markers > 0 && number <= bodies.count(type); ++number) {
-            const QString suffix = QLatin1Char(' ') + BodyModel::bodyText(type, number);
-            if (m_table.value(QStringLiteral("body calibrated") + suffix) == QLatin1String("yes")
-                && m_table.value(QStringLiteral("body targetlib_name") + suffix)
-                    == QLatin1String("none")
-                && m_table.value(QStringLiteral("body number_of_marker") + suffix)
-                    == QString::number(markers)) {
-                match = BodyModel::bodyText(type, number);
-                break;
+        if (!firstByMarkers.contains(type)) {
+            QHash<QString, QString> &first = firstByMarkers[type];
+            for (int number = bodies.count(type); number >= 1; --number) {
+                const QString body = BodyModel::bodyText(type, number);
+                const QString suffix = QLatin1Char(' ') + body;
+                if (m_table.value(QStringLiteral("body calibrated") + suffix)
+                        == QLatin1String("yes")
+                    && m_table.value(QStringLiteral("body targetlib_name") + suffix)
+                        == QLatin1String("none"))
+                    first.insert(
+                        m_table.value(QStringLiteral("body number_of_marker") + suffix), body);
             }
         }
-        m_table.set(path, match);
+        const int markers = markersOf(id, 0);
+        m_table.set(path,
+            markers > 0
+                ? firstByMarkers[type].value(QString::number(markers), QStringLiteral("none"))
+                : QStringLiteral("none"));
     }
 }
 

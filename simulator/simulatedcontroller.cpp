@@ -16,6 +16,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 
 #include <cstdarg>
 #include <utility>
@@ -60,6 +61,9 @@ public:
             || entry.kind == LogEntry::Setting;
     }
     QStringList checkCounts(const Scenario &scenario, const QString &name) const;
+    // Replaces the table, the versions, the search and the scenario's
+    // injections with those of scenario.
+    bool take(const Scenario &scenario, const QString &name, QStringList *errors);
 
     SimulatedController *q;
     ParameterTable table;
@@ -211,13 +215,23 @@ QStringList SimulatedController::builtInScenarios()
 bool SimulatedController::loadScenario(const QString &fileName, QStringList *errors)
 {
     initSimulatorResources();
+    // The built-in scenarios never change, and the tests and fuzzers load
+    // them thousands of times: each is parsed once.
+    static QHash<QString, Scenario> builtIn;
+    const bool isBuiltIn = fileName.startsWith(QLatin1String(":/"));
+    if (isBuiltIn && builtIn.contains(fileName))
+        return d->take(builtIn[fileName], fileName, errors);
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         if (errors)
             *errors << QStringLiteral("%1: cannot be read: %2").arg(fileName, file.errorString());
         return false;
     }
-    return loadScenarioText(QString::fromUtf8(file.readAll()), fileName, errors);
+    Scenario scenario;
+    scenario.parse(QString::fromUtf8(file.readAll()), fileName);
+    if (isBuiltIn)
+        builtIn.insert(fileName, scenario);
+    return d->take(scenario, fileName, errors);
 }
 
 bool SimulatedController::loadScenarioText(
@@ -225,19 +239,25 @@ bool SimulatedController::loadScenarioText(
 {
     Scenario scenario;
     scenario.parse(text, name);
-    QStringList problems = scenario.errors();
-    problems += d->checkCounts(scenario, name);
+    return d->take(scenario, name, errors);
+}
 
-    d->table.replace(scenario.parameters());
-    d->versions.systemVersion = scenario.versions().systemVersion;
-    d->versions.backendVersion = scenario.versions().backendVersion;
-    d->versions.systemType = scenario.versions().systemType;
-    d->search.reset();
-    d->search.configure(scenario.presentTargets(), scenario.searchDuration());
-    d->injector.clearScenarioInjections();
+bool SimulatedController::Private::take(
+    const Scenario &scenario, const QString &name, QStringList *errors)
+{
+    QStringList problems = scenario.errors();
+    problems += checkCounts(scenario, name);
+
+    table.replace(scenario.parameters());
+    versions.systemVersion = scenario.versions().systemVersion;
+    versions.backendVersion = scenario.versions().backendVersion;
+    versions.systemType = scenario.versions().systemType;
+    search.reset();
+    search.configure(scenario.presentTargets(), scenario.searchDuration());
+    injector.clearScenarioInjections();
     for (const FaultInjector::Injection &injection : scenario.injections())
-        d->injector.add(injection);
-    d->note = scenario.note();
+        injector.add(injection);
+    note = scenario.note();
 
     if (errors)
         *errors += problems;

@@ -39,10 +39,15 @@ CommandChannel::CommandChannel(IOManager *ioManager, const BackendVersions *vers
 QByteArray CommandChannel::outgoing(const QString &text) const
 {
     // Replies end up in commands ("inertial sensor_handeye <sensor>") and in
-    // requests to other modules; a line break there would end the line early
-    // and make the rest a command of its own.
+    // requests to other modules, and so does what the user types (a body's
+    // description); a line break there would end the line early and make the
+    // rest a command of its own, a zero byte would cut the command short (a
+    // description without its closing quote). No control character leaves.
     QByteArray bytes = text.toLatin1();
-    bytes.replace('\n', ' ').replace('\r', ' ');
+    for (char &c : bytes) {
+        if (uchar(c) < ' ')
+            c = ' ';
+    }
     return bytes;
 }
 

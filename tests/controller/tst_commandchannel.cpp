@@ -158,17 +158,19 @@ private slots:
     {
         sim::SimulatedController controller;
         controller.replaceReply(
-            "body inertial_sensor standard b01", "VX\r\nstandard number_of_bodies 0");
+            "body inertial_sensor standard b01", "VX\r\n\x03standard number_of_bodies 0");
         CommandChannel channel(&controller, &controller.backendVersions());
         const QString sensor = channel.stringOf("body inertial_sensor standard b01");
-        QCOMPARE(sensor, "VX\r\nstandard number_of_bodies 0");
-        // Where the reply leaves again, it cannot end the line early.
+        QCOMPARE(sensor, "VX\r\n\x03standard number_of_bodies 0");
+        // Where the reply leaves again, it cannot end the line early, nor carry
+        // any other control character.
         channel.stringOf("inertial sensor_handeye " + sensor);
         channel.sendMessage(
             "BodyCalModule", "BodyAdministrationModule", "OpenBodyCalDialog " + sensor);
         QCOMPARE(controller.commands().last(),
-            "inertial sensor_handeye VX  standard number_of_bodies 0");
-        QCOMPARE(controller.messages().last(), "OpenBodyCalDialog VX  standard number_of_bodies 0");
+            "inertial sensor_handeye VX   standard number_of_bodies 0");
+        QCOMPARE(
+            controller.messages().last(), "OpenBodyCalDialog VX   standard number_of_bodies 0");
     }
 };
 

@@ -2,8 +2,6 @@
 
 #include <testkit.h>
 
-#include <cstring>
-
 using Sim = sim::SimulatedController;
 
 namespace
@@ -120,32 +118,6 @@ private slots:
         QCOMPARE(controller.transcriptMismatch(), mismatch);
         controller.endTranscript();
         QCOMPARE_TRANSCRIPT(controller);
-    }
-    void replyNeverOverrunsBuffer_data()
-    {
-        testkit::columns<QByteArray, bool, QByteArray>({ "reply", "unterminated", "expected" });
-        // clang-format off
-        QTest::newRow("fits") << QByteArray(199, 'a') << false << QByteArray(199, 'a');
-        QTest::newRow("cut to 199 and a zero") << QByteArray(500, 'b') << false << QByteArray(199, 'b');
-        QTest::newRow("unterminated fills 200") << QByteArray(500, 'c') << true << QByteArray(200, 'c');
-        // clang-format on
-    }
-    void replyNeverOverrunsBuffer()
-    {
-        QFETCH(QByteArray, reply);
-        QFETCH(bool, unterminated);
-        QFETCH(QByteArray, expected);
-        for (const char *command : { "status active", "velora2 cal targetlib stop" }) {
-            Sim controller;
-            controller.replaceReply(command, reply, 1, unterminated);
-            char buffer[IOManager::ReplyBufferSize + 16];
-            std::memset(buffer, 'G', sizeof buffer);
-            QCOMPARE(send(controller, command, buffer), 0);
-            QCOMPARE(QByteArray(buffer, expected.size()), expected);
-            QCOMPARE(QByteArray(buffer + IOManager::ReplyBufferSize, 16), QByteArray(16, 'G'));
-            if (!unterminated)
-                QCOMPARE(buffer[expected.size()], '\0');
-        }
     }
 };
 
