@@ -51,28 +51,38 @@ QByteArray CommandChannel::outgoing(const QString &text) const
     return bytes;
 }
 
-int CommandChannel::getString(const QString &path, QString *value) const
+// A typed read: the neutral value unless the controller answered.
+template<typename Value, typename Read>
+int CommandChannel::read(const QString &path, Value *value, Read ioRead) const
 {
-    value->clear();
+    *value = Value();
     if (!m_io)
         return Failed;
-    ReplyBuffer buffer;
-    const int result = m_io->getString(buffer.data(), "%s", outgoing(path).constData());
+    Value reply = Value();
+    const int result = ioRead(outgoing(path).constData(), &reply);
     if (result == 0)
-        *value = buffer.text();
+        *value = reply;
     return result;
+}
+
+int CommandChannel::getString(const QString &path, QString *value) const
+{
+    return read(path, value, [this](const char *command, QString *reply) {
+        ReplyBuffer buffer;
+        const int result = m_io->getString(buffer.data(), "%s", command);
+        *reply = buffer.text();
+        return result;
+    });
 }
 
 int CommandChannel::getInt(const QString &path, int *value) const
 {
-    *value = 0;
-    if (!m_io)
-        return Failed;
-    qint32 number = 0;
-    const int result = m_io->getInt(&number, "%s", outgoing(path).constData());
-    if (result == 0)
-        *value = number;
-    return result;
+    return read(path, value, [this](const char *command, int *reply) {
+        qint32 number = 0;
+        const int result = m_io->getInt(&number, "%s", command);
+        *reply = number;
+        return result;
+    });
 }
 
 int CommandChannel::getCount(const QString &path, int *count) const
@@ -84,26 +94,15 @@ int CommandChannel::getCount(const QString &path, int *count) const
 
 int CommandChannel::getDouble(const QString &path, double *value) const
 {
-    *value = 0.0;
-    if (!m_io)
-        return Failed;
-    double number = 0.0;
-    const int result = m_io->getDouble(&number, "%s", outgoing(path).constData());
-    if (result == 0)
-        *value = number;
-    return result;
+    return read(path, value, [this](const char *command, double *reply) {
+        return m_io->getDouble(reply, "%s", command);
+    });
 }
 
 int CommandChannel::getBool(const QString &path, bool *value) const
 {
-    *value = false;
-    if (!m_io)
-        return Failed;
-    bool yes = false;
-    const int result = m_io->getBool(&yes, "%s", outgoing(path).constData());
-    if (result == 0)
-        *value = yes;
-    return result;
+    return read(path, value,
+        [this](const char *command, bool *reply) { return m_io->getBool(reply, "%s", command); });
 }
 
 int CommandChannel::setParameter(const QString &command) const

@@ -63,6 +63,8 @@ public:
 
 private:
     QByteArray outgoing(const QString &text) const;
+    template<typename Value, typename Read>
+    int read(const QString &path, Value *value, Read ioRead) const;
 
     IOManager *m_io;
     const BackendVersions *m_versions;
