@@ -102,7 +102,9 @@ void LibraryTargets::checkCustomCalibration(const BodyModel &bodies)
         const QString type = bodyTypeOf(id);
         if (!firstByMarkers.contains(type)) {
             QHash<QString, QString> &first = firstByMarkers[type];
-            for (int number = bodies.count(type); number >= 1; --number) {
+            // A table may claim more bodies than ids can name; only those exist.
+            const int count = qMin(bodies.count(type), BodyModel::MaxBodyNumber);
+            for (int number = count; number >= 1; --number) {
                 const QString body = BodyModel::bodyText(type, number);
                 const QString suffix = QLatin1Char(' ') + body;
                 if (m_table.value(QStringLiteral("body calibrated") + suffix)
