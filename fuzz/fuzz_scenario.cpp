@@ -21,9 +21,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const bool loaded = controller.loadScenarioText(text, QStringLiteral("fuzz.scn"), &errors);
     Fuzzing::require(loaded == errors.isEmpty(), "load result and error reports disagree");
     static const QRegularExpression report(QStringLiteral("^fuzz\\.scn:(\\d+): \\S"));
+    const int lines = text.count(QLatin1Char('\n')) + 1;
     for (const QString &error : qAsConst(errors)) {
         const int line = report.match(error).captured(1).toInt();
-        Fuzzing::require(line >= 1 && line <= text.count(QLatin1Char('\n')) + 1, error);
+        Fuzzing::require(line >= 1 && line <= lines, error);
     }
 
     constexpr int BufferSize = IOManager::ReplyBufferSize;
