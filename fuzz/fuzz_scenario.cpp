@@ -2,6 +2,7 @@
 // that exists, and the controller keeps answering within its reply buffer.
 #include "fuzzing.h"
 
+#include <bodymodel.h>
 #include <simulatedcontroller.h>
 
 #include <QRegularExpression>
@@ -47,7 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         }
     }
     qint32 count = 0;
-    if (controller.getInt(&count, "body number_of_bodies standard") == 0 && count >= 0) {
+    if (controller.getInt(&count, "body number_of_bodies standard") == 0 && count >= 0
+        && count < sim::BodyModel::MaxBodyNumber) {
         // One body more and back: both ways of a resize, at the cost of one body.
         controller.setParameter("standard number_of_bodies %lld", qint64(count) + 1);
         controller.setParameter("standard number_of_bodies %d", count);

@@ -232,12 +232,12 @@ QString BodyModel::defaultValue(
     return templateValue;
 }
 
-void BodyModel::createBody(const QString &type, int number, int templateNumber)
+void BodyModel::createBody(const QString &type, int number, const QList<OwnedPath> *pattern)
 {
     const QString id = bodyId(number);
     QList<OwnedPath> paths;
-    if (templateNumber > 0) {
-        paths = ownedPaths(type, templateNumber);
+    if (pattern) {
+        paths = *pattern;
     } else {
         // A type without bodies has no pattern to follow: take the basics.
         for (const char *name : { "desc", "active", "calibrated", "recalibrated", "targetlib_name",
@@ -279,8 +279,11 @@ bool BodyModel::resize(const QString &type, int newCount, QString *error)
     }
     // A table may claim more bodies than ids can name; only those can exist.
     const int existing = qMin(oldCount, MaxBodyNumber);
+    // New bodies follow the first one; its paths are looked up once, as a
+    // count in the hundreds made that lookup per body quadratic.
+    const QList<OwnedPath> pattern = existing > 0 ? ownedPaths(type, 1) : QList<OwnedPath>();
     for (int number = existing + 1; number <= qMin(newCount, MaxBodyNumber); ++number)
-        createBody(type, number, existing > 0 ? 1 : 0);
+        createBody(type, number, existing > 0 ? &pattern : nullptr);
     for (int number = existing; number > newCount; --number)
         removeBody(type, number);
     const QStringList paths = countPaths(type);

@@ -70,7 +70,8 @@ private:
     // references. dropped: the body is gone; otherwise the two swap.
     void swapReferences(const QString &type, int first, int second);
     void dropReferences(const QString &type, int number);
-    void createBody(const QString &type, int number, int templateNumber);
+    // pattern: the paths of the body to follow; without one, the basics.
+    void createBody(const QString &type, int number, const QList<OwnedPath> *pattern);
     void removeBody(const QString &type, int number);
 
     ParameterTable &m_table;

@@ -28,7 +28,7 @@ bool splitAssignment(const QString &line, QString *left, QString *right)
 }
 
 // The first words of the controller's parameter paths.
-bool isKnownGroup(const QString &word)
+bool isKnownGroup(const QStringRef &word)
 {
     static const QStringList groups { QStringLiteral("body"), QStringLiteral("cal"),
         QStringLiteral("config"), QStringLiteral("filter6d"), QStringLiteral("fingertracking"),
@@ -66,28 +66,29 @@ bool Scenario::parseVersion(const QString &text, BackendVersions::Version *versi
 bool Scenario::parse(const QString &text, const QString &name)
 {
     m_name = name;
-    const QStringList lines = text.split(QLatin1Char('\n'));
+    const QVector<QStringRef> lines = text.splitRef(QLatin1Char('\n'));
     for (int i = 0; i < lines.size(); ++i) {
-        QString line = lines.at(i);
+        QStringRef line = lines.at(i);
         if (line.endsWith(QLatin1Char('\r')))
             line.chop(1);
-        parseLine(line, i + 1);
+        // Blank lines and comments are most of a file: no copy for them.
+        const QStringRef trimmed = line.trimmed();
+        if (!trimmed.isEmpty() && !trimmed.startsWith(QLatin1Char('#')))
+            parseLine(line.toString(), i + 1);
     }
     return m_errors.isEmpty();
 }
 
 void Scenario::addError(int line, const QString &reason)
 {
-    m_errors << QStringLiteral("%1:%2: %3").arg(m_name).arg(line).arg(reason);
+    m_errors << QStringLiteral("%1:%2: %3").arg(m_name, QString::number(line), reason);
 }
 
 void Scenario::parseLine(const QString &line, int number)
 {
-    const QString trimmed = line.trimmed();
-    if (trimmed.isEmpty() || trimmed.startsWith(QLatin1Char('#')))
-        return;
+    const QStringRef trimmed = QStringRef(&line).trimmed();
     if (trimmed.startsWith(QLatin1Char('@'))) {
-        const QString directive = trimmed.section(QLatin1Char(' '), 0, 0);
+        const QString directive = trimmed.left(trimmed.indexOf(QLatin1Char(' '))).toString();
         // Only the start is trimmed: a doctored reply may end in a blank.
         QString argument = line.mid(line.indexOf(directive) + directive.size());
         while (argument.startsWith(QLatin1Char(' ')) || argument.startsWith(QLatin1Char('\t')))
@@ -109,7 +110,7 @@ void Scenario::parseLine(const QString &line, int number)
         addError(number, QStringLiteral("meta commands are not parameters"));
         return;
     }
-    const QString group = path.section(QLatin1Char(' '), 0, 0);
+    const QStringRef group = path.leftRef(path.indexOf(QLatin1Char(' ')));
     if (!isKnownGroup(group)) {
         addError(number, QStringLiteral("unknown parameter group \"%1\"").arg(group));
         return;

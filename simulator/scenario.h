@@ -55,6 +55,7 @@ public:
     static bool parseVersion(const QString &text, BackendVersions::Version *version);
 
 private:
+    // A line that is neither blank nor a comment.
     void parseLine(const QString &line, int number);
     void parseDirective(const QString &directive, const QString &rawArgument, int number);
     void addError(int line, const QString &reason);
