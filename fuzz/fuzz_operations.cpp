@@ -1,7 +1,8 @@
 // A host and a user doing things in any order: the module's properties and
 // lifecycle calls, the menu actions with everything in the dialogs clicked
 // and typed into, body operations on every tab, hand-overs and the messages
-// of other modules, and the fixed-angle dialog with its table.
+// of other modules, and the fixed-angle dialog with its table; from any
+// step on, the controller may refuse a group of commands.
 #include "fuzzing.h"
 
 #include <bodyadministrationdlg.h>
@@ -17,7 +18,10 @@
 namespace
 {
 
-const char *const Scenarios[] = { "default", "locked", "old", "orbilux" };
+const char *const Scenarios[] = { "default", "locked", "old", "orbilux", "failures" };
+// Commands the controller refuses from a step on, once or for good.
+const char *const Refused[] = { "*", "body *", "inertial *", "tracking *", "velora2 *",
+    "targetlib *", "filter6d *", "standard *", "config *", "status *" };
 const char *const Types[] = { "standard", "gripwand", "multiusergripwand_head", "fingertracking",
     "measurementtool", "measurementtool_reference" };
 const char *const Receivers[] = { "BodyAdministrationModule", "GlobalEvent", "BodyCalModule" };
@@ -82,7 +86,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static TrackingSettingBodyAdminModule &module = *new TrackingSettingBodyAdminModule;
     controller.clearLog();
     controller.setManualClock(true);
-    controller.loadScenario(QStringLiteral(":/scenarios/%1.scn").arg(Scenarios[bytes.pick(4)]));
+    controller.clearInjections();
+    controller.loadScenario(QStringLiteral(":/scenarios/%1.scn").arg(Scenarios[bytes.pick(5)]));
     for (int i = 0; i < 4; ++i)
         setProperty(module, controller, &parent, bytes);
     Fuzzing::driveModals(&bytes, &controller);
@@ -90,7 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     for (int steps = 0; !bytes.atEnd() && steps < 200; ++steps) {
         const QList<MenuEntry *> entries = module.menuEntries();
         auto *dialog = qobject_cast<BodyAdministrationDlg *>(entries.value(1)->dialog);
-        switch (bytes.pick(12)) {
+        switch (bytes.pick(13)) {
         case 0:
             setProperty(module, controller, &parent, bytes);
             break;
@@ -129,6 +134,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         case 10:
             if (dialog->currentTab())
                 dialog->currentTab()->update_tab();
+            break;
+        case 11:
+            controller.failCommand(
+                QLatin1String(Refused[bytes.pick(10)]), 1, bytes.pick(2) ? 1 : -1);
             break;
         default:
             FixedAngleDlg(&controller, &parent, &controller.backendVersions()).update_and_exec();

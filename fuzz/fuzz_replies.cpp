@@ -89,17 +89,26 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // The module builds its dialogs once and reloads them on every opening,
     // so they live as long as the controller version they were built for:
     // the version decides the tabs, and building them costs more than an
-    // input. Never deleted, as the controller.
-    static QByteArray builtFor;
-    static BodyAdministrationDlg *admin = nullptr;
-    static TrackingDlg *tracking = nullptr;
-    if (!admin || version != builtFor) {
-        delete admin; // one receiver at a time
-        delete tracking;
-        admin = new BodyAdministrationDlg(&controller, nullptr, versions);
-        tracking = new TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5"));
-        builtFor = version;
+    // input. A few versions' dialogs are kept, as inputs take turns.
+    struct Dialogs {
+        BodyAdministrationDlg *admin;
+        TrackingDlg *tracking;
+    };
+    static QHash<QByteArray, Dialogs> built;
+    if (!built.contains(version)) {
+        if (built.size() >= 16) {
+            for (const Dialogs &dialogs : qAsConst(built)) {
+                delete dialogs.admin;
+                delete dialogs.tracking;
+            }
+            built.clear();
+        }
+        built.insert(version,
+            { new BodyAdministrationDlg(&controller, nullptr, versions),
+                new TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5")) });
     }
+    BodyAdministrationDlg *admin = built.value(version).admin;
+    TrackingDlg *tracking = built.value(version).tracking;
     // One opening an input, as the input chooses; the dialogs carry their
     // state over to the next input, as in a host.
     switch (bytes.pick(4)) {
@@ -122,8 +131,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static const QRegularExpression control(QStringLiteral("[\\x00-\\x1f]"));
     for (const QString &command : controller.commands()) {
         if (command.contains(control))
-            Fuzzing::require(false,
-                "a control character in: " + command.toUtf8().toPercentEncoding(" "));
+            Fuzzing::require(
+                false, "a control character in: " + command.toUtf8().toPercentEncoding(" "));
     }
     for (const QString &report : controller.reports())
         Fuzzing::require(!report.trimmed().isEmpty(), "an empty report");

@@ -3,13 +3,13 @@
 #include <targetsearch.h>
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
-#include <QDoubleSpinBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
-#include <QSpinBox>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -26,6 +26,12 @@ int sameModalTicks = 0;
 int qtArgc = 1;
 char *qtArgv[] = { const_cast<char *>("fuzz"), nullptr };
 
+void pressKey(QWidget *widget, int key)
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &press);
+}
+
 void pokeTable(QTableWidget *table, FuzzBytes &bytes)
 {
     if (table->rowCount() == 0 || table->columnCount() == 0)
@@ -33,9 +39,9 @@ void pokeTable(QTableWidget *table, FuzzBytes &bytes)
     const int row = bytes.pick(table->rowCount());
     const int column = bytes.pick(table->columnCount());
     QTableWidgetItem *item = table->item(row, column);
-    switch (bytes.pick(4)) {
+    table->setCurrentCell(row, column);
+    switch (bytes.pick(5)) {
     case 0:
-        table->setCurrentCell(row, column);
         emit table->cellClicked(row, column);
         break;
     case 1:
@@ -45,9 +51,14 @@ void pokeTable(QTableWidget *table, FuzzBytes &bytes)
         if (item && (item->flags() & Qt::ItemIsEditable))
             item->setText(QString::fromLatin1(bytes.text(40)));
         break;
-    default:
+    case 3:
         if (item && (item->flags() & Qt::ItemIsUserCheckable))
             item->setCheckState(item->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+        break;
+    default:
+        static const int keys[]
+            = { Qt::Key_Space, Qt::Key_F2, Qt::Key_Return, Qt::Key_Delete, Qt::Key_Escape };
+        pressKey(table, keys[bytes.pick(5)]);
     }
 }
 
@@ -163,12 +174,11 @@ void poke(QWidget *window, FuzzBytes &bytes)
         button->click();
     } else if (auto *table = qobject_cast<QTableWidget *>(widget)) {
         pokeTable(table, bytes);
-    } else if (auto *spinBox = qobject_cast<QSpinBox *>(widget)) {
-        const qint64 range = qint64(spinBox->maximum()) - spinBox->minimum();
-        spinBox->setValue(int(spinBox->minimum() + qMin<qint64>(range, bytes.pick(256))));
-    } else if (auto *doubleSpinBox = qobject_cast<QDoubleSpinBox *>(widget)) {
-        const double step = (doubleSpinBox->maximum() - doubleSpinBox->minimum()) / 255;
-        doubleSpinBox->setValue(doubleSpinBox->minimum() + step * bytes.pick(256));
+    } else if (auto *spinBox = qobject_cast<QAbstractSpinBox *>(widget)) {
+        // Typed as an operator types, in range or not, and finished with Enter.
+        if (auto *edit = spinBox->findChild<QLineEdit *>())
+            edit->setText(QString::number((bytes.pick(256) - 64) / (bytes.pick(2) ? 1.0 : 8.0)));
+        pressKey(spinBox, Qt::Key_Return);
     } else if (auto *comboBox = qobject_cast<QComboBox *>(widget)) {
         comboBox->setCurrentIndex(bytes.pick(comboBox->count()));
     } else if (auto *lineEdit = qobject_cast<QLineEdit *>(widget)) {
