@@ -304,18 +304,28 @@ private slots:
         filter.setFilterFixedString(text);
         QTEST(texts(filter), "shown");
     }
-    // Qt blocks every window but the modal dialog and its transient children;
-    // the log window must be one of those.
-    void staysUsableWhileModuleDialogRuns()
+    // What the operator must see without opening the log: the scenario's
+    // purpose, the latest error report (its row marked, a click away) and the
+    // lock while it holds; the module's polling stays out of the way. Qt blocks
+    // every window but the modal dialog and its transient children: the log
+    // window must be one of those.
+    void statusBarShowsWhatHappened()
     {
-        DemoWindow window { DemoOptions() };
+        DemoOptions options;
+        options.scenario = "failures";
+        DemoWindow window(options);
         window.show();
         window.logWindow()->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.logWindow()));
         QTableView *view = window.logWindow()->view();
+        QVERIFY(window.findChild<QLabel *>("scenarioNote")->text().startsWith("Failures on"));
+        auto *report = window.findChild<QToolButton *>("latestReport");
+        auto *locked = window.findChild<QLabel *>("configurationLocked");
+        QVERIFY(!report->isVisible() && !locked->isVisible());
         int clicked = -1, currentRow = -2;
         ModalDriver driver;
         driver.answer([&](QWidget *modal) {
+            QTest::mouseClick(modal->findChild<QPushButton *>("pushButton_start"), Qt::LeftButton);
             clicked = view->model()->rowCount() - 2;
             const QModelIndex target = view->model()->index(clicked, 1);
             view->scrollTo(target);
@@ -328,34 +338,12 @@ private slots:
         });
         window.moduleActions().at(1)->trigger(); // body administration
         QCOMPARE(currentRow, clicked);
-        window.close();
-    }
-    // What the operator must see without opening the log: the scenario's
-    // purpose, the latest error report (its row marked, a click away) and the
-    // lock while it holds; the module's polling stays out of the way.
-    void statusBarShowsWhatHappened()
-    {
-        DemoOptions options;
-        options.scenario = "failures";
-        DemoWindow window(options);
-        window.show();
-        QVERIFY(window.findChild<QLabel *>("scenarioNote")->text().startsWith("Failures on"));
-        auto *report = window.findChild<QToolButton *>("latestReport");
-        auto *locked = window.findChild<QLabel *>("configurationLocked");
-        QVERIFY(!report->isVisible() && !locked->isVisible());
-        ModalDriver driver;
-        driver.answer([](QWidget *modal) {
-            QTest::mouseClick(modal->findChild<QPushButton *>("pushButton_start"), Qt::LeftButton);
-            static_cast<QDialog *>(modal)->reject();
-        });
-        window.moduleActions().at(1)->trigger(); // body administration
         QVERIFY(report->isVisible());
         QCOMPARE(
             report->text().section(' ', 1), "Error: Unable to start target library calibration");
         const QModelIndex marked = window.logModel()->latestReport();
         QVERIFY(marked.data(Qt::FontRole).value<QFont>().bold());
         QTest::mouseClick(report, Qt::LeftButton);
-        QTableView *view = window.logWindow()->view();
         QCOMPARE(
             window.logWindow()->filter()->mapToSource(view->currentIndex()).row(), marked.row());
 
