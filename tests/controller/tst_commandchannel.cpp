@@ -7,6 +7,8 @@
 
 #include <limits>
 
+using testkit::fetch;
+
 // The grammar and the channel are what every dialog relies on for the exact
 // command texts and for reading replies safely.
 class TestCommandChannel : public QObject
@@ -36,13 +38,10 @@ private slots:
     }
     void versions()
     {
-        QFETCH(QString, backend);
-        QFETCH(QString, system);
-        QFETCH(QString, systemType);
         BackendVersions v;
-        v.systemType = systemType;
-        QVERIFY(sim::Scenario::parseVersion(backend, &v.backendVersion)
-            && sim::Scenario::parseVersion(system, &v.systemVersion));
+        v.systemType = fetch<QString>("systemType");
+        QVERIFY(sim::Scenario::parseVersion(fetch<QString>("backend"), &v.backendVersion)
+            && sim::Scenario::parseVersion(fetch<QString>("system"), &v.systemVersion));
         const VersionGate gate(&v);
         QStringList passes;
         if (CommandChannel(nullptr, &v).atLeast(1, 9))
@@ -97,10 +96,9 @@ private slots:
     void reads()
     {
         QFETCH(QString, command);
-        QFETCH(QByteArray, reply);
         QFETCH(int, failure);
         sim::SimulatedController controller;
-        controller.replaceReply(command, reply, -1, failure < 0);
+        controller.replaceReply(command, fetch<QByteArray>("reply"), -1, failure < 0);
         if (failure > 0)
             controller.failCommand(command, failure);
         const CommandChannel channel(&controller, nullptr);

@@ -88,7 +88,6 @@ private slots:
     void loadsPlugin()
     {
         QFETCH(QString, path);
-        QFETCH(QStringList, fragments);
         DemoOptions options;
         options.pluginPath = path;
         DemoWindow window(options);
@@ -98,8 +97,8 @@ private slots:
             "&Configuration[Active configuration &changed] "
                 + (path.isEmpty() ? tracking : QString()) + "&Help[&About]");
         if (!path.isEmpty()) {
-            for (const QString &fragment :
-                fragments + QStringList { QFileInfo(path).absoluteFilePath(), "QT_DEBUG_PLUGINS" })
+            for (const QString &fragment : testkit::fetch<QStringList>("fragments")
+                    + QStringList { QFileInfo(path).absoluteFilePath(), "QT_DEBUG_PLUGINS" })
                 QVERIFY2(window.loadError().contains(fragment), qPrintable(window.loadError()));
             // No module, so nobody to announce anything to.
             QVERIFY(window.controller()->messages().isEmpty());
@@ -121,13 +120,12 @@ private slots:
     void standInAnswersHandOver()
     {
         QFETCH(QString, module);
-        QFETCH(QString, request);
         sim::SimulatedController controller;
         StandInModules standIns(&controller, nullptr);
         ModalDriver driver;
         driver.pressButton(QMessageBox::Ok);
-        controller.sendMessage(
-            qPrintable(module), "BodyAdministrationModule", 1, qPrintable(request));
+        controller.sendMessage(qPrintable(module), "BodyAdministrationModule", 1,
+            qPrintable(testkit::fetch<QString>("request")));
         // Never while the request is still being delivered.
         QVERIFY(!controller.messages().contains("reopen"));
         QTRY_VERIFY(controller.messages().contains("reopen"));
@@ -293,15 +291,13 @@ private slots:
     }
     void filters()
     {
-        QFETCH(int, show);
-        QFETCH(QString, text);
         SimulatorLogModel model;
         fill(&model);
         LogFilter filter;
         filter.setSourceModel(&model);
-        filter.setShow(LogFilter::Show(show));
+        filter.setShow(LogFilter::Show(testkit::fetch<int>("show")));
         filter.setHidePolling(false);
-        filter.setFilterFixedString(text);
+        filter.setFilterFixedString(testkit::fetch<QString>("text"));
         QTEST(texts(filter), "shown");
     }
     // What the operator must see without opening the log: the scenario's

@@ -39,18 +39,16 @@ private slots:
     void properties()
     {
         QFETCH(QString, name);
-        QFETCH(QVariant, value);
-        QFETCH(bool, stored);
         TrackingSettingBodyAdminModule module;
         setUp(module, true); // a wrong value replaces an earlier right one
-        module.setModuleProperty(name, value);
+        module.setModuleProperty(name, testkit::fetch<QVariant>("value"));
         QStringList kept,
             expected { "CommandManager", "BackendVersions", "ModuleParent", "ObserverMode" };
         for (bool set : { module.commandManager() == &controller,
                  module.versions() == &controller.backendVersions(),
                  module.parentWidget() == window, module.isObserverMode() })
             kept << (set ? expected.at(kept.size()) : QString());
-        if (!stored)
+        if (!testkit::fetch<bool>("stored"))
             expected.replace(expected.indexOf(name), QString());
         QCOMPARE(kept, expected);
     }
@@ -127,12 +125,11 @@ private slots:
     }
     void callOrders()
     {
-        QFETCH(QString, calls);
         sim::SimulatedController controller; // its own: a log of this host session only
         TrackingSettingBodyAdminModule module;
         QPointer<QWidget> parent = new QWidget;
         setUp(module, false, &controller, parent);
-        for (const QString &call : calls.split(' ')) {
+        for (const QString &call : testkit::fetch<QString>("calls").split(' ')) {
             if (call == "menu")
                 QCOMPARE(module.menuEntries().size(), 2);
             else if (call == "shutdown")

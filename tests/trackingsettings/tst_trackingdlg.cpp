@@ -105,17 +105,17 @@ private slots:
     }
     void session()
     {
-        QFETCH(QString, version);
         QFETCH(QString, file);
-        QFETCH(QString, changes);
         QFETCH(QString, keys);
         QFETCH(QString, button);
-        QVERIFY(controller.takeScenarioLine("@backend-version " + version + ".0"));
+        QVERIFY(controller.takeScenarioLine(
+            "@backend-version " + testkit::fetch<QString>("version") + ".0"));
         // The menus were just built: the body administration has asked for the
         // lock before it changes.
         CommandChannel(&controller, nullptr).stringOf("config is_changeable");
         controller.clearLog();
-        for (const QString &line : changes.split('|', Qt::SkipEmptyParts))
+        for (const QString &line :
+            testkit::fetch<QString>("changes").split('|', Qt::SkipEmptyParts))
             QVERIFY(controller.takeScenarioLine(line));
         // Things in the way stop even root, whom permissions would not.
         if (file == "obstacle:file")
