@@ -9,12 +9,7 @@
 #include <utility>
 
 using testkit::columns;
-
-// The current data row's value in that column.
-template<typename T> T fetch(const char *name)
-{
-    return *static_cast<T *>(QTest::qData(name, qMetaTypeId<T>()));
-}
+using testkit::fetch;
 
 // One data row, the values in the order of the columns.
 template<typename... T> void row(const char *name, const T &...values)

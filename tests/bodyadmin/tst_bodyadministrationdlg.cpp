@@ -95,72 +95,48 @@ private slots:
         QVERIFY(!f.enabled("pushButton_up"));
     }
 
-    void refusesToCloseDuringCalibration()
-    {
-        f.build();
-        f.controller->setValue("status active", "cal targetlib");
-        QList<bool> stillOpen;
-        f.driver->answer([&](QWidget *) {
-            QTest::keyClick(f.dialog, Qt::Key_Escape);
-            stillOpen << f.dialog->isVisible();
-            f.dialog->close();
-            stillOpen << f.dialog->isVisible();
-            f.controller->setValue("status active", "none");
-            QApplication::processEvents(); // the operator's next click comes later
-            QTest::mouseClick(button("pushButton_exit"), Qt::LeftButton);
-            stillOpen << f.dialog->isVisible();
-        });
-        QCOMPARE(f.dialog->update_and_exec(), int(QDialog::Accepted));
-        QCOMPARE(stillOpen, QList<bool>({ true, true, false }));
-        QCOMPARE(f.controller->reports(),
-            L(QString("Unable to close dialog during calibration is running | ").repeated(2)));
-    }
-
     void handOverTexts_data()
     {
-        // button: pushButton_ left off
-        columns<QString, int, QString>({ "button", "index", "message" });
-        row("adjustment of an uncalibrated body", "body_adjustment", 3,
-            "OpenBodyAdjustmentDialog standard|4|uncalibrated");
-        row("hybrid", "hybridCalibration", 2, "OpenHybridBodyCalibration standard|3|Full");
-        row("nothing selected", "calibration", -1, "");
+        // button: pushButton_ left off, none where the hybrid calibration is
+        // not offered; report: the first one after the click on the row
+        columns<QStringList, QString, int, QString, QString>(
+            { "setUp", "button", "index", "message", "report" });
+        const QStringList none;
+        row("adjustment of an uncalibrated body", none, "body_adjustment", 3,
+            "OpenBodyAdjustmentDialog standard|4|uncalibrated", QString());
+        row("hybrid: body 3 carries a sensor", none, "hybridCalibration", 2,
+            "OpenHybridBodyCalibration standard|3|Full", QString());
+        row("hybrid, inertial tracking unknown", L("!inertial available"), "", 2, "",
+            "Error: Unable to get info inertial tracking available");
+        row("hybrid, sensor unknown", L("!inertial sensor_present*"), "", 2, "",
+            "Error: Unable to get info inertial sensor is present");
+        row("nothing selected", none, "calibration", -1, "", QString());
     }
     // The calibration state is data: with the German translation installed the
     // table speaks German, the other modules still get the controller's words.
     void handOverTexts()
     {
-        const QString message = fetch<QString>("message");
+        const QString button = fetch<QString>("button"), message = fetch<QString>("message");
+        const int index = fetch<int>("index");
         QTranslator german;
         QVERIFY(german.load(TRACKING_QM_FILE));
         QCoreApplication::installTranslator(&german);
-        f.open();
+        f.open(0, fetch<QStringList>("setUp"));
         QCOMPARE(f.table()->item(3, 6)->text(), QString("nicht kalibriert"));
         QCOMPARE(f.table()->item(2, 6)->text(), QString::fromUtf8("Vollst\xc3\xa4ndig"));
-        f.dialog->onAdminTabWidget_selectionChanged("standard", fetch<int>("index"));
-        QMetaObject::invokeMethod(
-            f.dialog, qPrintable("on_pushButton_" + fetch<QString>("button") + "_clicked"));
+        if (index >= 0)
+            BodyAdminFixture::click(f.table(), index, 0);
+        QCOMPARE(f.enabled("pushButton_hybridCalibration"), button == "hybridCalibration");
+        QCOMPARE(f.controller->reports().value(0), fetch<QString>("report"));
+        f.clear();
+        if (!button.isEmpty()) {
+            f.dialog->onAdminTabWidget_selectionChanged("standard", index);
+            QMetaObject::invokeMethod(f.dialog, qPrintable("on_pushButton_" + button + "_clicked"));
+        }
         QCoreApplication::removeTranslator(&german);
 
         QCOMPARE(f.controller->messages(), L(message));
         QCOMPARE(f.dialog->isVisible(), message.isEmpty());
-    }
-
-    void hybridNeedsInertialTracking_data()
-    {
-        columns<QStringList, bool, QString>({ "setUp", "offered", "report" });
-        row("sensor present", QStringList(), true, QString());
-        row("inertial tracking unknown", L("!inertial available"), false,
-            QString("Error: Unable to get info inertial tracking available"));
-        row("sensor unknown", L("!inertial sensor_present*"), false,
-            QString("Error: Unable to get info inertial sensor is present"));
-    }
-    // Body 3 carries a sensor and is fully calibrated.
-    void hybridNeedsInertialTracking()
-    {
-        f.open(0, fetch<QStringList>("setUp"));
-        BodyAdminFixture::click(f.table(), 2, 0);
-        QCOMPARE(f.enabled("pushButton_hybridCalibration"), fetch<bool>("offered"));
-        QCOMPARE(f.controller->reports().value(0), fetch<QString>("report"));
     }
 
     // The custom calibration is offered once its module has announced itself.
@@ -210,9 +186,11 @@ private slots:
             L("config is_changeable | gripwand multiuser_available | status active | velora2 "
               "targetlib check_custom_calibration")
                 + refresh + L("inertial available | status active"));
-        row("locked before opening, Exit while a calibration runs, then again", QString("locked"),
+        row("locked before opening, Escape, close and Exit while a calibration runs, then Exit",
+            QString("locked"),
             L("config is_changeable | gripwand multiuser_available | status active") + refresh
-                + L("inertial available | status active | status active"));
+                + L("inertial available | status active | status active | status active | status "
+                    "active"));
         row("count 3 -> 5", QString("count"),
             L("standard number_of_bodies 5 | standard max_number_of_bodies") + load(4, 5)
                 + tableFill);
@@ -233,14 +211,25 @@ private slots:
             f.controller->setValue("config is_changeable", locked ? "no" : "yes");
             f.controller->setValue("status active", locked ? "cal targetlib" : "none");
             f.controller->expectTranscript(fetch<QStringList>("transcript"));
-            f.driver->answer([this, locked](QWidget *dialog) {
+            bool stillOpen = false;
+            f.driver->answer([&](QWidget *dialog) {
+                if (locked) { // every way out is refused while the calibration runs
+                    QTest::keyClick(dialog, Qt::Key_Escape);
+                    dialog->close();
+                }
                 f.clickButton("pushButton_exit");
+                stillOpen = dialog->isVisible();
                 f.controller->setValue("status active", "none");
-                if (locked && dialog->isVisible())
+                QApplication::processEvents(); // the operator's next click comes later
+                if (stillOpen)
                     f.clickButton("pushButton_exit");
             });
-            f.dialog->update_and_exec();
+            QCOMPARE(f.dialog->update_and_exec(), int(QDialog::Accepted));
             QCOMPARE_TRANSCRIPT(*f.controller);
+            QCOMPARE(stillOpen, locked);
+            QCOMPARE(f.controller->reports().count(
+                         "Unable to close dialog during calibration is running"),
+                locked ? 3 : 0);
             QCOMPARE(f.dialog->windowIcon().isNull(), !locked);
             return;
         }
@@ -252,8 +241,6 @@ private slots:
             spinBox->selectAll();
             QTest::keyClicks(spinBox, "5");
             QTest::keyClick(spinBox, Qt::Key_Return);
-            QCOMPARE(spinBox->value(), 5);
-            QCOMPARE(f.table()->rowCount(), 5);
         } else if (flow == "rename") {
             BodyAdminFixture::go(f.table(), 2, 0, Qt::Key_F2);
             QTest::keyClicks(QApplication::focusWidget(), "Tool");

@@ -8,7 +8,11 @@ class TestBodyLoader : public QObject
 {
     Q_OBJECT
 
+    sim::SimulatedController controller;
+    CommandChannel channel { &controller, &controller.backendVersions() };
+
 private slots:
+    void init() { testkit::useScenario(controller); }
     void queriesByVersion_data()
     {
         // Letters of the queries below, in the order they are sent.
@@ -29,7 +33,6 @@ private slots:
         // A calibrated reference with everything a controller can tell; the
         // letter names the query.
         const QString b = " standard b02";
-        sim::SimulatedController controller;
         QStringList queries;
         for (const char *change :
             { "d body desc%1 = \"Room \"ref\"\"", "l body targetlib_name%1 = none",
@@ -44,7 +47,6 @@ private slots:
         }
         controller.backendVersions().backendVersion
             = { fetch<int>("major"), fetch<int>("minor"), fetch<int>("patch") };
-        CommandChannel channel(&controller, &controller.backendVersions());
 
         const BodyRecord body = BodyLoader(channel).load("standard", 1);
         QCOMPARE(controller.commands(), queries);
@@ -64,7 +66,6 @@ private slots:
     }
     void filterText()
     {
-        sim::SimulatedController controller;
         const QString b = " gripwand b01";
         controller.setValue("body filter6d_enabled" + b, fetch<QString>("enabled"));
         controller.setValue("body filter6d_preset" + b, fetch<QString>("preset"));
@@ -72,7 +73,6 @@ private slots:
         controller.setValue("body filter6d_prediction" + b, "0.0125");
         controller.setValue("body filter6d_mode" + b, "mode6d_smooth");
         controller.setValue("filter6d mode_desc mode6d_smooth", "\"smooth\"");
-        CommandChannel channel(&controller, &controller.backendVersions());
 
         QCOMPARE(BodyLoader(channel).filterText("gripwand", 0), fetch<QString>("text"));
         // None of the filter queries is reported when it fails.
@@ -91,10 +91,7 @@ private slots:
     }
     void reference()
     {
-        sim::SimulatedController controller;
-        controller.backendVersions().backendVersion = { 1, 24, 0 };
         controller.setValue("tracking reference", fetch<QString>("reply"));
-        CommandChannel channel(&controller, &controller.backendVersions());
         QCOMPARE(BodyLoader(channel).load(fetch<QString>("type"), fetch<int>("index")).isReference,
             fetch<bool>("reference"));
         QCOMPARE(controller.commands().count("tracking reference"), 1); // for any type
@@ -102,11 +99,8 @@ private slots:
 
     void failedQueriesAreReported()
     {
-        sim::SimulatedController controller;
-        controller.loadScenarioText(QString(), "empty");
-        controller.backendVersions().backendVersion = { 1, 24, 0 };
+        controller.loadScenarioText("@backend-version 1.24.0", "empty");
         controller.setValue("body inertial_sensor standard b01", "S1");
-        CommandChannel channel(&controller, &controller.backendVersions());
         BodyLoader loader(channel);
 
         QCOMPARE(loader.numberOfBodies("standard"), 0);

@@ -13,8 +13,6 @@ ModalDriver::ModalDriver(QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, &ModalDriver::poll);
 }
 
-ModalDriver::~ModalDriver() = default;
-
 void ModalDriver::answer(Action action)
 {
     m_steps.append(std::move(action));

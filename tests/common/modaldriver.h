@@ -32,7 +32,6 @@ public:
     using Action = std::function<void(QWidget *modal)>;
 
     explicit ModalDriver(QObject *parent = nullptr);
-    ~ModalDriver() override;
 
     // Queue a step for the next modal widget.
     void answer(Action action);

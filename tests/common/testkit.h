@@ -22,6 +22,13 @@ template<typename... T> void columns(const std::array<const char *, sizeof...(T)
     (QTest::addColumn<T>(names[i++]), ...);
 }
 
+// The current data row's value in that column, where QFETCH would name a
+// local used once.
+template<typename T> T fetch(const char *name)
+{
+    return *static_cast<T *>(QTest::qData(name, qMetaTypeId<T>()));
+}
+
 template<typename T = QWidget> T *child(const QObject *parent, const char *name)
 {
     T *found = parent->findChild<T *>(QLatin1String(name));

@@ -88,7 +88,6 @@ private slots:
     void loadsPlugin()
     {
         QFETCH(QString, path);
-        QFETCH(QStringList, fragments);
         DemoOptions options;
         options.pluginPath = path;
         DemoWindow window(options);
@@ -98,8 +97,8 @@ private slots:
             "&Configuration[Active configuration &changed] "
                 + (path.isEmpty() ? tracking : QString()) + "&Help[&About]");
         if (!path.isEmpty()) {
-            for (const QString &fragment :
-                fragments + QStringList { QFileInfo(path).absoluteFilePath(), "QT_DEBUG_PLUGINS" })
+            for (const QString &fragment : testkit::fetch<QStringList>("fragments")
+                    + QStringList { QFileInfo(path).absoluteFilePath(), "QT_DEBUG_PLUGINS" })
                 QVERIFY2(window.loadError().contains(fragment), qPrintable(window.loadError()));
             // No module, so nobody to announce anything to.
             QVERIFY(window.controller()->messages().isEmpty());
@@ -121,13 +120,12 @@ private slots:
     void standInAnswersHandOver()
     {
         QFETCH(QString, module);
-        QFETCH(QString, request);
         sim::SimulatedController controller;
         StandInModules standIns(&controller, nullptr);
         ModalDriver driver;
         driver.pressButton(QMessageBox::Ok);
-        controller.sendMessage(
-            qPrintable(module), "BodyAdministrationModule", 1, qPrintable(request));
+        controller.sendMessage(qPrintable(module), "BodyAdministrationModule", 1,
+            qPrintable(testkit::fetch<QString>("request")));
         // Never while the request is still being delivered.
         QVERIFY(!controller.messages().contains("reopen"));
         QTRY_VERIFY(controller.messages().contains("reopen"));
@@ -293,29 +291,37 @@ private slots:
     }
     void filters()
     {
-        QFETCH(int, show);
-        QFETCH(QString, text);
         SimulatorLogModel model;
         fill(&model);
         LogFilter filter;
         filter.setSourceModel(&model);
-        filter.setShow(LogFilter::Show(show));
+        filter.setShow(LogFilter::Show(testkit::fetch<int>("show")));
         filter.setHidePolling(false);
-        filter.setFilterFixedString(text);
+        filter.setFilterFixedString(testkit::fetch<QString>("text"));
         QTEST(texts(filter), "shown");
     }
-    // Qt blocks every window but the modal dialog and its transient children;
-    // the log window must be one of those.
-    void staysUsableWhileModuleDialogRuns()
+    // What the operator must see without opening the log: the scenario's
+    // purpose, the latest error report (its row marked, a click away) and the
+    // lock while it holds; the module's polling stays out of the way. Qt blocks
+    // every window but the modal dialog and its transient children: the log
+    // window must be one of those.
+    void statusBarShowsWhatHappened()
     {
-        DemoWindow window { DemoOptions() };
+        DemoOptions options;
+        options.scenario = "failures";
+        DemoWindow window(options);
         window.show();
         window.logWindow()->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.logWindow()));
         QTableView *view = window.logWindow()->view();
+        QVERIFY(window.findChild<QLabel *>("scenarioNote")->text().startsWith("Failures on"));
+        auto *report = window.findChild<QToolButton *>("latestReport");
+        auto *locked = window.findChild<QLabel *>("configurationLocked");
+        QVERIFY(!report->isVisible() && !locked->isVisible());
         int clicked = -1, currentRow = -2;
         ModalDriver driver;
         driver.answer([&](QWidget *modal) {
+            QTest::mouseClick(modal->findChild<QPushButton *>("pushButton_start"), Qt::LeftButton);
             clicked = view->model()->rowCount() - 2;
             const QModelIndex target = view->model()->index(clicked, 1);
             view->scrollTo(target);
@@ -328,34 +334,12 @@ private slots:
         });
         window.moduleActions().at(1)->trigger(); // body administration
         QCOMPARE(currentRow, clicked);
-        window.close();
-    }
-    // What the operator must see without opening the log: the scenario's
-    // purpose, the latest error report (its row marked, a click away) and the
-    // lock while it holds; the module's polling stays out of the way.
-    void statusBarShowsWhatHappened()
-    {
-        DemoOptions options;
-        options.scenario = "failures";
-        DemoWindow window(options);
-        window.show();
-        QVERIFY(window.findChild<QLabel *>("scenarioNote")->text().startsWith("Failures on"));
-        auto *report = window.findChild<QToolButton *>("latestReport");
-        auto *locked = window.findChild<QLabel *>("configurationLocked");
-        QVERIFY(!report->isVisible() && !locked->isVisible());
-        ModalDriver driver;
-        driver.answer([](QWidget *modal) {
-            QTest::mouseClick(modal->findChild<QPushButton *>("pushButton_start"), Qt::LeftButton);
-            static_cast<QDialog *>(modal)->reject();
-        });
-        window.moduleActions().at(1)->trigger(); // body administration
         QVERIFY(report->isVisible());
         QCOMPARE(
             report->text().section(' ', 1), "Error: Unable to start target library calibration");
         const QModelIndex marked = window.logModel()->latestReport();
         QVERIFY(marked.data(Qt::FontRole).value<QFont>().bold());
         QTest::mouseClick(report, Qt::LeftButton);
-        QTableView *view = window.logWindow()->view();
         QCOMPARE(
             window.logWindow()->filter()->mapToSource(view->currentIndex()).row(), marked.row());
 

@@ -3,6 +3,7 @@
 #include <testkit.h>
 
 using testkit::child;
+using testkit::fetch;
 
 namespace
 {
@@ -122,23 +123,18 @@ private slots:
     }
     void session()
     {
-        QFETCH(int, minor);
-        QFETCH(QString, setting);
-        QFETCH(int, tab);
-        QFETCH(int, index);
-        QFETCH(QString, input);
-        controller.backendVersions().backendVersion = { 1, minor, 0 };
-        testkit::apply(controller, setting);
+        controller.backendVersions().backendVersion = { 1, fetch<int>("minor"), 0 };
+        testkit::apply(controller, fetch<QString>("setting"));
         QStringList shown;
         QString message;
-        const int mark = run(tab, index, input, [&](QWidget *modal) {
-            shown << itemsOf(modal, "comboBox_body", true)
-                  << itemsOf(modal, "comboBox_preset", false) << valuesOf(modal);
-            message = child<QLabel>(modal, "label_error")->text();
-        });
+        const int mark = run(
+            fetch<int>("tab"), fetch<int>("index"), fetch<QString>("input"), [&](QWidget *modal) {
+                shown << itemsOf(modal, "comboBox_body", true)
+                      << itemsOf(modal, "comboBox_preset", false) << valuesOf(modal);
+                message = child<QLabel>(modal, "label_error")->text();
+            });
         QTEST(shown.join(" # "), "look");
-        QFETCH(QString, commands);
-        QCOMPARE(controller.commands().mid(mark), body2(commands));
+        QCOMPARE(controller.commands().mid(mark), body2(fetch<QString>("commands")));
         QTEST(message.isEmpty() ? controller.reports().join('|') : message, "message");
     }
     // An opening from construction on, before and from 1.21, with the

@@ -30,7 +30,6 @@ private slots:
     }
     void matching()
     {
-        QFETCH(QByteArray, sender);
         QFETCH(QByteArray, text);
         BodyAdminMessageReceiver receiver;
         QStringList emitted;
@@ -40,8 +39,9 @@ private slots:
                  { &R::BodyAdjustmentAvailable, "BodyAdjustmentAvailable" },
                  { &R::activeConfigurationChanged, "activeConfigurationChanged" } })
             connect(&receiver, signal, this, [&emitted, name = name] { emitted << name; });
-        QCOMPARE(receiver.receiveMessage(
-                     "GlobalEvent", sender.constData(), text.isNull() ? nullptr : text.constData()),
+        QCOMPARE(
+            receiver.receiveMessage("GlobalEvent", testkit::fetch<QByteArray>("sender").constData(),
+                text.isNull() ? nullptr : text.constData()),
             0);
         QTEST(emitted.join(' '), "signal");
     }
@@ -60,9 +60,9 @@ private slots:
     }
     void requests()
     {
-        QFETCH(MakeRequest, request);
         sim::SimulatedController controller;
-        request().send(CommandChannel(&controller, &controller.backendVersions()));
+        testkit::fetch<MakeRequest>("request")().send(
+            CommandChannel(&controller, &controller.backendVersions()));
         QCOMPARE(controller.log().size(), 1);
         const sim::SimulatedController::LogEntry entry = controller.log().first();
         QTEST(entry.receiver + ": " + entry.text, "sent");

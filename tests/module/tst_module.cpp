@@ -39,35 +39,32 @@ private slots:
     void properties()
     {
         QFETCH(QString, name);
-        QFETCH(QVariant, value);
-        QFETCH(bool, stored);
         TrackingSettingBodyAdminModule module;
         setUp(module, true); // a wrong value replaces an earlier right one
-        module.setModuleProperty(name, value);
-        QStringList kept;
-        if (module.commandManager() == &controller)
-            kept << "CommandManager";
-        if (module.versions() == &controller.backendVersions())
-            kept << "BackendVersions";
-        if (module.parentWidget() == window)
-            kept << "ModuleParent";
-        if (module.isObserverMode())
-            kept << "ObserverMode";
-        QStringList expected { "CommandManager", "BackendVersions", "ModuleParent",
-            "ObserverMode" };
-        if (!stored)
-            expected.removeOne(name);
+        module.setModuleProperty(name, testkit::fetch<QVariant>("value"));
+        QStringList kept,
+            expected { "CommandManager", "BackendVersions", "ModuleParent", "ObserverMode" };
+        for (bool set : { module.commandManager() == &controller,
+                 module.versions() == &controller.backendVersions(),
+                 module.parentWidget() == window, module.isObserverMode() })
+            kept << (set ? expected.at(kept.size()) : QString());
+        if (!testkit::fetch<bool>("stored"))
+            expected.replace(expected.indexOf(name), QString());
         QCOMPARE(kept, expected);
     }
+    // As a host uses the module: entries once, the actions open their dialogs,
+    // cleanup() ends the dialogs, entries again.
     void menuEntries()
     {
         TrackingSettingBodyAdminModule module;
         setUp(module, false);
-
         QCOMPARE(
             module.moduleName() + ' ' + module.moduleVersion(), "GUI Settings Tracking v3.0.5");
-        const QList<MenuEntry *> entries = module.menuEntries();
-        QCOMPARE(entries.size(), 2);
+        const QList<MenuEntry *> first = module.menuEntries();
+        const int widgets = QApplication::allWidgets().size();
+        QCOMPARE(module.menuEntries(), first);
+        QCOMPARE(QApplication::allWidgets().size(), widgets);
+        QCOMPARE(first.size(), 2);
 
         const auto describe = [](const MenuEntry *entry) {
             return QStringList({ entry->menuTitle, QString::number(entry->menuPosition),
@@ -80,15 +77,28 @@ private slots:
         const QString singleHelp(
             "Change settings of the 6DOF standard bodies and the 3DOF markers and "
             "body administration");
-        QCOMPARE(describe(entries.at(0)),
+        QCOMPARE(describe(first.at(0)),
             "&Tracking|300|20|0|&Single markers||" + singleHelp + '|' + singleHelp
                 + "|TrackingDlg");
-        QCOMPARE(describe(entries.at(1)),
+        QCOMPARE(describe(first.at(1)),
             QString(
                 "&Tracking|300|25|0|&Body administration|F8|Settings of all bodies|Settings of all "
                 "bodies|BodyAdministrationDlg"));
-        for (const MenuEntry *entry : entries)
+        for (const MenuEntry *entry : first) {
             QVERIFY(entry->dialog->parentWidget() == window && entry->action->parent() == &module);
+            ModalDriver driver;
+            driver.reject();
+            entry->action->trigger();
+            QCOMPARE(driver.seen().value(0).className,
+                QString(entry->dialog->metaObject()->className()));
+        }
+        QPointer<QDialog> oldDialog = first.at(1)->dialog;
+        module.cleanup();
+        QVERIFY(oldDialog.isNull());
+        const QList<MenuEntry *> rebuilt = module.menuEntries();
+        QVERIFY(rebuilt.size() == 2 && rebuilt.at(0)->dialog && rebuilt.at(1)->dialog);
+        // The host still holds the old action in its menu: it opens the new dialog.
+        QCOMPARE(rebuilt.at(1)->action, first.at(1)->action);
         module.shutdown();
         module.cleanup();
     }
@@ -115,12 +125,11 @@ private slots:
     }
     void callOrders()
     {
-        QFETCH(QString, calls);
         sim::SimulatedController controller; // its own: a log of this host session only
         TrackingSettingBodyAdminModule module;
         QPointer<QWidget> parent = new QWidget;
         setUp(module, false, &controller, parent);
-        for (const QString &call : calls.split(' ')) {
+        for (const QString &call : testkit::fetch<QString>("calls").split(' ')) {
             if (call == "menu")
                 QCOMPARE(module.menuEntries().size(), 2);
             else if (call == "shutdown")
@@ -147,34 +156,6 @@ private slots:
         QCOMPARE(registrations.value("GlobalEvent"), listening);
         module.cleanup();
         delete parent;
-    }
-    // As a host uses the module: entries once, the actions open their dialogs,
-    // cleanup() ends the dialogs, entries again.
-    void lifecycle()
-    {
-        sim::SimulatedController controller; // its own: a log of this host session only
-        TrackingSettingBodyAdminModule module;
-        module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
-        const QList<MenuEntry *> first = module.menuEntries();
-        const int widgets = QApplication::allWidgets().size();
-        QCOMPARE(module.menuEntries(), first);
-        QCOMPARE(QApplication::allWidgets().size(), widgets);
-        for (const MenuEntry *entry : first) {
-            ModalDriver driver;
-            driver.reject();
-            entry->action->trigger();
-            QCOMPARE(driver.seen().value(0).className,
-                QString(entry->dialog->metaObject()->className()));
-        }
-        QPointer<QDialog> oldDialog = first.at(1)->dialog;
-        module.cleanup();
-        QVERIFY(oldDialog.isNull());
-        const QList<MenuEntry *> rebuilt = module.menuEntries();
-        QVERIFY(rebuilt.size() == 2 && rebuilt.at(0)->dialog && rebuilt.at(1)->dialog);
-        // The host still holds the old action in its menu: it opens the new dialog.
-        QCOMPARE(rebuilt.at(1)->action, first.at(1)->action);
-        module.shutdown();
-        module.cleanup();
     }
 
 private:

@@ -51,14 +51,12 @@ private slots:
         loader.setLoadHints(QLibrary::LoadHints());
         QObject *object = loader.instance();
         QVERIFY2(object, qPrintable(loader.errorString()));
-        QCOMPARE(loader.instance(), object); // one module object per process
         QCOMPARE(object->metaObject()->className(), "TrackingSettingBodyAdminModule");
 
         auto *module = qobject_cast<ModuleInterface *>(object);
         QVERIFY(module);
         QCOMPARE(static_cast<void *>(object->qt_metacast("zem.velora2.gui.Module/0.2.0")),
             static_cast<void *>(module));
-        QCOMPARE(loader.metaData().value("debug").toBool(), bool(DebugFlag));
 
         // The plug-in's pictures are there while it is loaded.
         QVERIFY(QFile::exists(":/lock.png"));

@@ -93,9 +93,6 @@ private slots:
     // Space flips the hold of bodies 1 and 3, an angle is typed for body 2, then OK.
     void edits()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, shown);
-        QFETCH(QString, sent);
         QString cell;
         bool nameEdited = true;
         const int result = run([&](AngleTableWidget *table) {
@@ -106,7 +103,7 @@ private slots:
             QTest::keyClick(table, Qt::Key_F2);
             auto *editor = table->findChild<QLineEdit *>();
             QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClicks(editor, typed);
+            QTest::keyClicks(editor, testkit::fetch<QString>("typed"));
             QTest::keyClick(editor, Qt::Key_Return);
             // The view commits and closes the editor from the event loop.
             QApplication::processEvents();
@@ -122,11 +119,12 @@ private slots:
             clickLater(table->window(), "pushButton_ok");
         });
         QCOMPARE(result, int(QDialog::Accepted));
-        QCOMPARE(cell, shown);
+        QTEST(cell, "shown");
         QVERIFY(!nameEdited);
         QCOMPARE(controller.commands(),
             QStringList({ "standard fixed_angle b01 yes 0.000000 no 0.000000 no 0.000000",
-                "standard fixed_angle b02 no 0.000000 no " + sent + " no 0.000000",
+                "standard fixed_angle b02 no 0.000000 no " + testkit::fetch<QString>("sent")
+                    + " no 0.000000",
                 "standard fixed_angle b03 no 5.000000 no 0.000000 no 0.000000",
                 "standard fixed_angle b04 no 0.000000 no 0.000000 no 0.000000" }));
     }

@@ -105,17 +105,17 @@ private slots:
     }
     void session()
     {
-        QFETCH(QString, version);
         QFETCH(QString, file);
-        QFETCH(QString, changes);
         QFETCH(QString, keys);
         QFETCH(QString, button);
-        QVERIFY(controller.takeScenarioLine("@backend-version " + version + ".0"));
+        QVERIFY(controller.takeScenarioLine(
+            "@backend-version " + testkit::fetch<QString>("version") + ".0"));
         // The menus were just built: the body administration has asked for the
         // lock before it changes.
         CommandChannel(&controller, nullptr).stringOf("config is_changeable");
         controller.clearLog();
-        for (const QString &line : changes.split('|', Qt::SkipEmptyParts))
+        for (const QString &line :
+            testkit::fetch<QString>("changes").split('|', Qt::SkipEmptyParts))
             QVERIFY(controller.takeScenarioLine(line));
         // Things in the way stop even root, whom permissions would not.
         if (file == "obstacle:file")
@@ -126,40 +126,40 @@ private slots:
             QVERIFY(writePreferences(file.toUtf8()));
         QScopedPointer<TrackingDlg> dialog(newDialog());
         QStringList controls;
-        const int result = open(
-            *dialog,
-            [&](QWidget *modal) {
-                if (modal->windowTitle() != "Single Markers")
-                    controls << "untitled";
-                if (modal->windowIcon().pixmap(16).toImage()
-                    == QIcon(":/lock.png").pixmap(16).toImage())
-                    controls << "lock";
-                for (const char *name :
-                    { "checkBox_force3d", "checkBox_autoReStart", "comboBox_5dofAxis",
-                        "pushButton_advanced", "pushButton_ok", "pushButton_cancel" }) {
-                    QString shortName = QString(name).section('_', 1);
-                    const QWidget *widget = child(modal, name);
-                    if (const auto combo = qobject_cast<const QComboBox *>(widget))
-                        shortName += ':' + combo->currentText(); // the axis
-                    if (widget->isVisible())
-                        controls << (widget->isEnabled() ? shortName : '(' + shortName + ')');
-                }
-                if (const QString vector = child<QLabel>(modal, "label_display5dof")->text();
-                    !vector.isEmpty())
-                    controls << vector;
-                if (keys.contains("space"))
-                    QTest::keyClick(child(modal, "checkBox_force3d"), Qt::Key_Space);
-                if (keys.contains("down"))
-                    QTest::keyClick(child(modal, "comboBox_5dofAxis"), Qt::Key_Down);
-                if (keys.startsWith("pulse:")) { // hidden at every opening; its rules still hold
-                    child<QRadioButton>(modal, "radioButton_frequency")->setChecked(true);
-                    child<QRadioButton>(modal, qPrintable("radioButton_" + keys.mid(6)))
-                        ->setChecked(true);
-                    child<QDoubleSpinBox>(modal, "doubleSpinBox_frequency")->setValue(60);
-                }
-            },
-            button);
-        QCOMPARE(result, int(button == "ok" ? QDialog::Accepted : QDialog::Rejected));
+        ModalDriver driver;
+        driver.answer([&](QWidget *modal) {
+            if (modal->windowTitle() != "Single Markers")
+                controls << "untitled";
+            if (modal->windowIcon().pixmap(16).toImage()
+                == QIcon(":/lock.png").pixmap(16).toImage())
+                controls << "lock";
+            for (const char *name :
+                { "checkBox_force3d", "checkBox_autoReStart", "comboBox_5dofAxis",
+                    "pushButton_advanced", "pushButton_ok", "pushButton_cancel" }) {
+                QString shortName = QString(name).section('_', 1);
+                const QWidget *widget = child(modal, name);
+                if (const auto combo = qobject_cast<const QComboBox *>(widget))
+                    shortName += ':' + combo->currentText(); // the axis
+                if (widget->isVisible())
+                    controls << (widget->isEnabled() ? shortName : '(' + shortName + ')');
+            }
+            if (const QString vector = child<QLabel>(modal, "label_display5dof")->text();
+                !vector.isEmpty())
+                controls << vector;
+            if (keys.contains("space"))
+                QTest::keyClick(child(modal, "checkBox_force3d"), Qt::Key_Space);
+            if (keys.contains("down"))
+                QTest::keyClick(child(modal, "comboBox_5dofAxis"), Qt::Key_Down);
+            if (keys.startsWith("pulse:")) { // hidden at every opening; its rules still hold
+                child<QRadioButton>(modal, "radioButton_frequency")->setChecked(true);
+                child<QRadioButton>(modal, qPrintable("radioButton_" + keys.mid(6)))
+                    ->setChecked(true);
+                child<QDoubleSpinBox>(modal, "doubleSpinBox_frequency")->setValue(60);
+            }
+            testkit::clickLater(modal, qPrintable("pushButton_" + button));
+        });
+        QCOMPARE(
+            dialog->update_and_exec(), int(button == "ok" ? QDialog::Accepted : QDialog::Rejected));
         QTEST(controls.join(' '), "controls");
         QTEST(controller.commands().join(", "), "commands");
         // Destroying the dialog writes what it showed: once offered, the
@@ -208,18 +208,6 @@ private slots:
     }
 
 private:
-    // Opens the dialog, runs action on it while shown, then clicks the button.
-    int open(TrackingDlg &dialog, const std::function<void(QWidget *)> &action,
-        const QString &button = "cancel")
-    {
-        ModalDriver driver; // answers one opening only
-        driver.answer([=](QWidget *modal) {
-            if (action)
-                action(modal);
-            testkit::clickLater(modal, qPrintable("pushButton_" + button));
-        });
-        return dialog.update_and_exec();
-    }
     TrackingDlg *newDialog()
     {
         return new TrackingDlg(&controller, nullptr, &controller.backendVersions(), "v3.0.5");
