@@ -39,6 +39,11 @@ void setProperty(TrackingSettingBodyAdminModule &module, sim::SimulatedControlle
               QVariant::fromValue(&controller.backendVersions()), QVariant(true),
               QVariant(QStringLiteral("text")), QVariant::fromValue<QObject *>(qApp), QVariant() };
     module.setModuleProperty(names[bytes.pick(5)], values[bytes.pick(7)]);
+    // A value of the wrong type is refused, never stored as another thing.
+    Fuzzing::require((!module.commandManager() || module.commandManager() == &controller)
+            && (!module.versions() || module.versions() == &controller.backendVersions())
+            && (!module.parentWidget() || module.parentWidget() == parent),
+        "a property holds what the host never gave");
 }
 
 void bodyOperation(BodyTypeAdministrationTab *tab, FuzzBytes &bytes)
