@@ -155,7 +155,12 @@ namespace Fuzzing
 void require(bool ok, const QString &what)
 {
     if (!ok)
-        qFatal("==fuzz== %s", qPrintable(what)); // aborts
+        fail(what);
+}
+
+void fail(const QString &what)
+{
+    qFatal("==fuzz== %s", qPrintable(what)); // aborts
 }
 
 void poke(QWidget *window, FuzzBytes &bytes)

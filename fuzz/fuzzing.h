@@ -33,6 +33,8 @@ namespace Fuzzing
 
 // A failed check is a crash to libFuzzer: it keeps and shrinks the input.
 void require(bool ok, const QString &what);
+// The same where building the report costs: called only once it failed.
+[[noreturn]] void fail(const QString &what);
 // One user action on an enabled widget of window: a button click, a table
 // cell clicked, double-clicked, typed into or (un)checked, a spin box,
 // combo box, line edit or tab changed.
