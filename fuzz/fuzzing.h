@@ -36,8 +36,8 @@ void require(bool ok, const QString &what);
 // The same where building the report costs: called only once it failed.
 [[noreturn]] void fail(const QString &what);
 // One user action on an enabled widget of window: a button click, a table
-// cell clicked, double-clicked, typed into or (un)checked, a spin box,
-// combo box, line edit or tab changed.
+// cell clicked, double-clicked, typed into, (un)checked or given a key, a
+// number typed into a spin box, a combo box, line edit or tab changed.
 void poke(QWidget *window, FuzzBytes &bytes);
 // While set, every modal dialog that opens is worked on with poke() and then
 // answered (Yes, No, OK, Cancel) from bytes; with none, modal dialogs are
