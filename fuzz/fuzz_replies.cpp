@@ -18,11 +18,13 @@
 #include "fuzzing.h"
 
 #include <bodyadministrationdlg.h>
+#include <bodytabfactory.h>
 #include <bodytypeadministrationtab.h>
 #include <filterdialog.h>
 #include <simulatedcontroller.h>
 #include <targetlibrary.h>
 #include <trackingdlg.h>
+#include <versiongate.h>
 
 #include <QApplication>
 #include <QRegularExpression>
@@ -32,8 +34,7 @@ namespace
 
 constexpr int MaxCount = 200;
 
-// True for a rule that decides which tabs the dialog has.
-bool applyRule(sim::SimulatedController &controller, const QByteArray &line)
+void applyRule(sim::SimulatedController &controller, const QByteArray &line)
 {
     const QByteArray word = line.left(line.indexOf(' '));
     const QByteArray rest = line.mid(word.size() + 1);
@@ -60,7 +61,6 @@ bool applyRule(sim::SimulatedController &controller, const QByteArray &line)
     } else if (equals > 0 && (word == "reply" || word == "once" || word == "open")) {
         controller.replaceReply(pattern, text, word == "once" ? 1 : -1, word == "open");
     }
-    return word == "version" || word == "system";
 }
 
 } // namespace
@@ -76,41 +76,34 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     controller.clearInjections();
     controller.clearLog();
     controller.setManualClock(true);
-    QByteArray version; // the rules that decide the dialogs' tabs
-    for (const QByteArray &line : input.left(clicksAt).split('\n')) {
-        if (applyRule(controller, line))
-            version += line + '\n';
-    }
+    for (const QByteArray &line : input.left(clicksAt).split('\n'))
+        applyRule(controller, line);
     const int clicksFrom = clicksAt < 0 ? int(size) : clicksAt + 4;
     FuzzBytes bytes { data + clicksFrom, size - size_t(clicksFrom) };
     Fuzzing::driveModals(&bytes, &controller);
 
     BackendVersions *versions = &controller.backendVersions();
-    // The module builds its dialogs once and reloads them on every opening,
-    // so they live as long as the controller version they were built for:
-    // the version decides the tabs, and building them costs more than an
-    // input. A few versions' dialogs are kept, as inputs take turns.
-    struct Dialogs {
-        BodyAdministrationDlg *admin;
-        TrackingDlg *tracking;
-    };
-    static QHash<QByteArray, Dialogs> built;
-    if (!built.contains(version)) {
-        if (built.size() >= 16) {
-            for (const Dialogs &dialogs : qAsConst(built)) {
-                delete dialogs.admin;
-                delete dialogs.tracking;
-            }
-            built.clear();
-        }
-        built.insert(version,
-            { new BodyAdministrationDlg(&controller, nullptr, versions),
-                new TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5")) });
-    }
-    BodyAdministrationDlg *admin = built.value(version).admin;
-    TrackingDlg *tracking = built.value(version).tracking;
-    // One opening an input, as the input chooses; the dialogs carry their
-    // state over to the next input, as in a host.
+    // The module builds its dialogs once and reloads them on every opening;
+    // building costs more than an input. Of the version only the tabs it
+    // offers shape the administration dialog, and only whether an ORBILUX
+    // system restarts by itself the tracking dialog: one of each is kept
+    // per shape, and the dialogs carry their state over to the next input,
+    // as in a host. More kept windows would cost every modal dialog, which
+    // tells each of them it is blocked.
+    const VersionGate gate(versions);
+    int adminShape = 0;
+    for (int key : { BodyTabFactory::Fingertracking, BodyTabFactory::MeasurementTool })
+        adminShape = adminShape * 2 + BodyTabFactory::isOffered(key, gate);
+    const int trackingShape = gate.isOrbilux() + (gate.isOrbilux() && gate.atLeast(0, 14));
+    static QHash<int, BodyAdministrationDlg *> admins;
+    static QHash<int, TrackingDlg *> trackings;
+    BodyAdministrationDlg *&admin = admins[adminShape];
+    if (!admin)
+        admin = new BodyAdministrationDlg(&controller, nullptr, versions);
+    TrackingDlg *&tracking = trackings[trackingShape];
+    if (!tracking)
+        tracking = new TrackingDlg(&controller, nullptr, versions, QStringLiteral("v3.0.5"));
+    // One opening an input, as the input chooses.
     switch (bytes.pick(4)) {
     case 0:
         admin->update_and_exec();
