@@ -5,8 +5,6 @@
 #include <bodymodel.h>
 #include <simulatedcontroller.h>
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <cstring>
 
@@ -21,11 +19,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QStringList errors;
     const bool loaded = controller.loadScenarioText(text, QStringLiteral("fuzz.scn"), &errors);
     Fuzzing::require(loaded == errors.isEmpty(), "load result and error reports disagree");
-    static const QRegularExpression report(QStringLiteral("^fuzz\\.scn:(\\d+): \\S"));
     const int lines = text.count(QLatin1Char('\n')) + 1;
+    // Each report names its line, "fuzz.scn:LINE: reason" (a regular
+    // expression checking that took a sixteenth of the time).
+    const QString name = QStringLiteral("fuzz.scn:");
     for (const QString &error : qAsConst(errors)) {
-        const int line = report.match(error).captured(1).toInt();
-        Fuzzing::require(line >= 1 && line <= lines, error);
+        const int colon = error.indexOf(QLatin1String(": "), name.size());
+        bool number = false;
+        const int line = error.midRef(name.size(), colon - name.size()).toInt(&number);
+        Fuzzing::require(error.startsWith(name) && number && line >= 1 && line <= lines
+                && colon + 2 < error.size() && !error.at(colon + 2).isSpace(),
+            error);
     }
 
     constexpr int BufferSize = IOManager::ReplyBufferSize;
@@ -47,11 +51,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             ++asked;
         }
     }
-    qint32 count = 0;
-    if (controller.getInt(&count, "body number_of_bodies standard") == 0 && count >= 0
-        && count < sim::BodyModel::MaxBodyNumber) {
-        // One body more and back: both ways of a resize, at the cost of one body.
-        controller.setParameter("standard number_of_bodies %lld", qint64(count) + 1);
+    // One body more and back: both ways of a resize, at the cost of one body.
+    // Where the two counts disagree, a resize starts from either and made
+    // hundreds of bodies an input.
+    const QString counted = parameters.value(QStringLiteral("body number_of_bodies standard"));
+    bool number = false;
+    const int count = counted.toInt(&number);
+    if (number && counted == parameters.value(QStringLiteral("standard number_of_bodies"))
+        && count >= 0 && count < sim::BodyModel::MaxBodyNumber) {
+        controller.setParameter("standard number_of_bodies %d", count + 1);
         controller.setParameter("standard number_of_bodies %d", count);
     }
     controller.setParameter("tracking reference standard b01");

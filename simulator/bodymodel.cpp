@@ -2,6 +2,8 @@
 
 #include "parametertable.h"
 
+#include <QHash>
+
 #include <utility>
 
 namespace sim
@@ -54,26 +56,32 @@ BodyModel::BodyModel(ParameterTable &table)
 
 QStringList BodyModel::types()
 {
-    return { QStringLiteral("standard"), QStringLiteral("gripwand"),
+    static const QStringList all { QStringLiteral("standard"), QStringLiteral("gripwand"),
         QStringLiteral("multiusergripwand_head"), QStringLiteral("fingertracking"),
         QStringLiteral("measurementtool"), QStringLiteral("measurementtool_reference") };
+    return all;
 }
 
 QString BodyModel::bodyId(int number)
 {
-    return QStringLiteral("b%1").arg(number, 2, 10, QLatin1Char('0'));
+    // Every command about a body spells its id; arg() took most of that.
+    QString id = QString::number(number);
+    return id.size() < 2 ? QStringLiteral("b0") + id : QLatin1Char('b') + id;
 }
 
 int BodyModel::bodyNumber(const QString &id)
 {
-    if (id.size() < 3 || id.at(0) != QLatin1Char('b'))
+    // Only the canonical spelling names a body: "b7" or "b007" do not.
+    if (id.size() < 3 || id.at(0) != QLatin1Char('b')
+        || (id.size() > 3 && id.at(1) == QLatin1Char('0')))
         return -1;
+    for (int i = 1; i < id.size(); ++i) {
+        if (id.at(i) < QLatin1Char('0') || id.at(i) > QLatin1Char('9'))
+            return -1;
+    }
     bool ok = false;
     const int number = id.midRef(1).toInt(&ok);
-    // Only the canonical spelling names a body: "b7" or "b007" do not.
-    if (!ok || number < 1 || bodyId(number) != id)
-        return -1;
-    return number;
+    return ok && number >= 1 ? number : -1;
 }
 
 QString BodyModel::bodyText(const QString &type, int number)
@@ -83,28 +91,41 @@ QString BodyModel::bodyText(const QString &type, int number)
 
 bool BodyModel::parseBodyText(const QString &text, QString *type, int *number)
 {
-    const QStringList words = text.split(QLatin1Char(' '));
-    if (words.size() != 2 || !types().contains(words.at(0)) || bodyNumber(words.at(1)) < 0)
+    const int blank = text.indexOf(QLatin1Char(' '));
+    const QString word = text.left(blank);
+    const int parsed = blank < 0 ? -1 : bodyNumber(text.mid(blank + 1));
+    if (parsed < 0 || !types().contains(word))
         return false;
-    *type = words.at(0);
-    *number = bodyNumber(words.at(1));
+    *type = word;
+    *number = parsed;
     return true;
 }
 
 QStringList BodyModel::countPaths(const QString &type)
 {
-    QStringList paths { QStringLiteral("body number_of_bodies ") + type };
-    if (type == QLatin1String("standard"))
-        paths << QStringLiteral("standard number_of_bodies");
-    else if (type == QLatin1String("gripwand"))
-        paths << QStringLiteral("gripwand number_of_devices");
-    else if (type == QLatin1String("fingertracking"))
-        paths << QStringLiteral("fingertracking number_of_hands");
-    else if (type == QLatin1String("measurementtool"))
-        paths << QStringLiteral("measurementtool number_of_tools");
-    else if (type == QLatin1String("measurementtool_reference"))
-        paths << QStringLiteral("measurementtool number_of_references");
-    return paths;
+    // Asked for every count the controller reads or changes.
+    static const QHash<QString, QStringList> paths {
+        { QStringLiteral("standard"),
+            { QStringLiteral("body number_of_bodies standard"),
+                QStringLiteral("standard number_of_bodies") } },
+        { QStringLiteral("gripwand"),
+            { QStringLiteral("body number_of_bodies gripwand"),
+                QStringLiteral("gripwand number_of_devices") } },
+        { QStringLiteral("multiusergripwand_head"),
+            { QStringLiteral("body number_of_bodies multiusergripwand_head") } },
+        { QStringLiteral("fingertracking"),
+            { QStringLiteral("body number_of_bodies fingertracking"),
+                QStringLiteral("fingertracking number_of_hands") } },
+        { QStringLiteral("measurementtool"),
+            { QStringLiteral("body number_of_bodies measurementtool"),
+                QStringLiteral("measurementtool number_of_tools") } },
+        { QStringLiteral("measurementtool_reference"),
+            { QStringLiteral("body number_of_bodies measurementtool_reference"),
+                QStringLiteral("measurementtool number_of_references") } },
+    };
+    const auto known = paths.constFind(type);
+    return known != paths.cend() ? *known
+                                 : QStringList { QStringLiteral("body number_of_bodies ") + type };
 }
 
 QString BodyModel::maximumPath(const QString &type)
@@ -124,12 +145,18 @@ QString BodyModel::maximumPath(const QString &type)
 
 QString BodyModel::typeOfCountPath(const QString &path)
 {
-    const QStringList allTypes = types();
-    for (const QString &type : allTypes) {
-        if (countPaths(type).contains(path))
-            return type;
-    }
-    return QString();
+    // Asked for every setting the controller takes.
+    static const QHash<QString, QString> typeOfPath = [] {
+        QHash<QString, QString> result;
+        const QStringList all = types();
+        for (const QString &type : all) {
+            const QStringList paths = countPaths(type);
+            for (const QString &countPath : paths)
+                result.insert(countPath, type);
+        }
+        return result;
+    }();
+    return typeOfPath.value(path);
 }
 
 int BodyModel::count(const QString &type) const
@@ -161,15 +188,27 @@ QList<BodyModel::OwnedPath> BodyModel::ownedPaths(const QString &type, int numbe
 {
     const QString id = bodyId(number);
     QList<OwnedPath> owned;
-    const QStringList bodyPaths = m_table.pathsStartingWith(BodyGroup + QLatin1Char(' '));
-    // Splitting every body's paths made removing N bodies cost N squared splits.
+    // Body paths read "body NAME TYPE bNN ..." in sorted order: jump from one
+    // name to the next instead of reading every body's paths, as resizes and
+    // exchanges of many bodies did, once per body.
+    const QMap<QString, QString> &values = m_table.values();
+    const QString group = BodyGroup + QLatin1Char(' ');
     const QString typeAndId = QLatin1Char(' ') + type + QLatin1Char(' ') + id;
-    for (const QString &path : bodyPaths) {
-        if (!path.contains(typeAndId))
+    auto it = values.lowerBound(group);
+    while (it != values.cend() && it.key().startsWith(group)) {
+        const int nameEnd = it.key().indexOf(QLatin1Char(' '), group.size());
+        if (nameEnd < 0) {
+            ++it;
             continue;
-        const QStringList words = path.split(QLatin1Char(' '));
-        if (words.size() >= 4 && words.at(2) == type && words.at(3) == id)
-            owned.append({ words, 3 });
+        }
+        const QString name = it.key().left(nameEnd);
+        const QString body = name + typeAndId;
+        for (it = values.lowerBound(body); it != values.cend() && it.key().startsWith(body); ++it) {
+            if (it.key().size() == body.size() || it.key().at(body.size()) == QLatin1Char(' '))
+                owned.append({ it.key().split(QLatin1Char(' ')), 3 });
+        }
+        // '!' follows the blank: past every path of this name.
+        it = values.lowerBound(name + QLatin1Char('!'));
     }
     const QStringList prefixes = ownPrefixes(type);
     for (const QString &prefix : prefixes) {

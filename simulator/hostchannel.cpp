@@ -17,12 +17,16 @@ QString HostChannel::format(const char *format, va_list args)
 {
     if (!format)
         return QString();
-    va_list measure;
-    va_copy(measure, args);
-    const int size = std::vsnprintf(nullptr, 0, format, measure);
-    va_end(measure);
+    // Commands are short: formatted once on the stack, twice only when long.
+    char shortText[256];
+    va_list first;
+    va_copy(first, args);
+    const int size = std::vsnprintf(shortText, sizeof shortText, format, first);
+    va_end(first);
     if (size <= 0)
         return QString();
+    if (size < int(sizeof shortText))
+        return QString::fromLatin1(shortText, size);
     QByteArray text(size, Qt::Uninitialized); // holds size + 1 bytes with the zero
     std::vsnprintf(text.data(), size_t(size) + 1, format, args);
     return QString::fromLatin1(text);

@@ -4,6 +4,7 @@
 #include "parametertable.h"
 
 #include <QHash>
+#include <QMap>
 
 namespace sim
 {
@@ -25,18 +26,29 @@ LibraryTargets::LibraryTargets(ParameterTable &table)
 
 QString LibraryTargets::targetId(int number)
 {
-    return QStringLiteral("t%1").arg(number, 2, 10, QLatin1Char('0'));
+    QString id = QString::number(number);
+    return id.size() < 2 ? QStringLiteral("t0") + id : QLatin1Char('t') + id;
 }
 
-QStringList LibraryTargets::ids() const
+QStringList LibraryTargets::idsWith(const char *parameter) const
 {
     qint32 count = 0;
     ParameterTable::toInt(m_table.value(QStringLiteral("targetlib number_of_targets")), &count);
-    QStringList ids;
     // Target ids have at most three digits; a larger count names no more.
-    for (int number = 1; number <= qMin(count, 999); ++number)
-        ids << targetId(number);
-    return ids;
+    count = qMin(count, 999);
+    // Read from the parameters the library holds, not from its count: a
+    // library may claim hundreds of targets and hold a few.
+    const QString prefix = targetPath(parameter, QStringLiteral("t"));
+    const QStringList paths = m_table.pathsStartingWith(prefix);
+    QMap<int, QString> ids;
+    for (const QString &path : paths) {
+        const QString id = path.mid(prefix.size() - 1);
+        bool ok = false;
+        const int number = id.midRef(1).toInt(&ok);
+        if (ok && number >= 1 && number <= count && targetId(number) == id)
+            ids.insert(number, id);
+    }
+    return ids.values();
 }
 
 QString LibraryTargets::nameOf(const QString &id) const
@@ -49,7 +61,7 @@ QString LibraryTargets::idOfName(const QString &name) const
 {
     if (name.isEmpty())
         return QString();
-    const QStringList targets = ids();
+    const QStringList targets = idsWith("target_name");
     for (const QString &id : targets) {
         if (nameOf(id) == name)
             return id;
@@ -84,7 +96,7 @@ void LibraryTargets::setTracked(const QString &id, bool tracked)
 
 void LibraryTargets::clearTracked()
 {
-    const QStringList targets = ids();
+    const QStringList targets = idsWith("target_status_tracked");
     for (const QString &id : targets)
         setTracked(id, false);
 }
@@ -94,11 +106,9 @@ void LibraryTargets::checkCustomCalibration(const BodyModel &bodies)
     // Per body type, the first body calibrated without the library for each
     // marker count: one pass over the bodies rather than one per target.
     QHash<QString, QHash<QString, QString>> firstByMarkers;
-    const QStringList targets = ids();
+    const QStringList targets = idsWith("target_status_calibrated_custom");
     for (const QString &id : targets) {
         const QString path = targetPath("target_status_calibrated_custom", id);
-        if (!m_table.contains(path))
-            continue;
         const QString type = bodyTypeOf(id);
         if (!firstByMarkers.contains(type)) {
             QHash<QString, QString> &first = firstByMarkers[type];

@@ -20,7 +20,8 @@ public:
 
     static QString targetId(int number);
 
-    QStringList ids() const;
+    // The library's ids, in order, that have "targetlib PARAMETER tNN".
+    QStringList idsWith(const char *parameter) const;
     // The name a body refers to its target by: the first word of the
     // target's name, without single quotes.
     QString nameOf(const QString &id) const;

@@ -81,7 +81,7 @@ bool Scenario::parse(const QString &text, const QString &name)
 
 void Scenario::addError(int line, const QString &reason)
 {
-    m_errors << QStringLiteral("%1:%2: %3").arg(m_name, QString::number(line), reason);
+    m_errors << m_name + QLatin1Char(':') + QString::number(line) + QLatin1String(": ") + reason;
 }
 
 void Scenario::parseLine(const QString &line, int number)
