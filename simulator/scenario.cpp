@@ -1,6 +1,7 @@
 #include "scenario.h"
 
 #include <QRegularExpression>
+#include <QStringBuilder>
 
 namespace sim
 {
@@ -81,7 +82,9 @@ bool Scenario::parse(const QString &text, const QString &name)
 
 void Scenario::addError(int line, const QString &reason)
 {
-    m_errors << m_name + QLatin1Char(':') + QString::number(line) + QLatin1String(": ") + reason;
+    // One allocation a report: a broken file may have one on every line.
+    m_errors << QString(
+        m_name % QLatin1Char(':') % QString::number(line) % QLatin1String(": ") % reason);
 }
 
 void Scenario::parseLine(const QString &line, int number)
