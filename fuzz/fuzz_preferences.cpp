@@ -8,25 +8,33 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QByteArray input(reinterpret_cast<const char *>(data), int(size));
     static const QString version = QStringLiteral("v3.0.5");
     TrackingPreferences preferences(version);
     static const QString fileName = preferences.fileName();
+    static const QByteArray path = QFile::encodeName(fileName);
     static const bool directoryMade = QDir().mkpath(preferences.directory());
-    QFile file(fileName);
-    Fuzzing::require(directoryMade && file.open(QIODevice::WriteOnly | QIODevice::Truncate)
-            && file.write(input) == input.size(),
+    // The target's own file work in plain C: QFile's buffers took a fifth
+    // of an input's time.
+    std::FILE *file = std::fopen(path.constData(), "wb");
+    const bool stored = file && std::fwrite(data, 1, size, file) == size;
+    Fuzzing::require(directoryMade && file && std::fclose(file) == 0 && stored,
         QStringLiteral("cannot write ") + fileName);
-    file.close();
 
     const QString error = preferences.read();
     if (!error.isEmpty() && !(error.startsWith("Error: ") && error.contains(fileName)))
         Fuzzing::fail("report: " + error);
-    Fuzzing::require(
-        file.open(QIODevice::ReadOnly) && file.readAll() == input, "reading changed the file");
-    file.close();
+    std::vector<uint8_t> after(size + 1);
+    file = std::fopen(path.constData(), "rb");
+    const size_t read = file ? std::fread(after.data(), 1, after.size(), file) : 0;
+    Fuzzing::require(file && std::fclose(file) == 0 && read == size
+            && std::equal(data, data + size, after.begin()),
+        "reading changed the file");
 
     // What is written depends on the two settings alone: each pair is
     // written and read back once a process, not once an input.
