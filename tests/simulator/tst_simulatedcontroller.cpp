@@ -66,6 +66,29 @@ private slots:
         controller.setValue("config is_changeable", "no");
         QCOMPARE(controller.setParameter("tracking auto_restart no"), int(Sim::Refused));
     }
+    // Only an id's one spelling names a body, however many there are.
+    void bodyIds_data()
+    {
+        testkit::columns<QString, bool>({ "id", "switched" });
+        QTest::newRow("two digits") << "b03" << true;
+        QTest::newRow("three digits") << "b120" << true;
+        QTest::newRow("one digit") << "b3" << false;
+        QTest::newRow("padded") << "b003" << false;
+        QTest::newRow("padded past 99") << "b0120" << false;
+        QTest::newRow("signed") << "b+3" << false;
+        QTest::newRow("zero") << "b00" << false;
+        QTest::newRow("past the count") << "b121" << false;
+    }
+    void bodyIds()
+    {
+        Sim controller;
+        controller.setValue("standard max_number_of_bodies", "200");
+        QCOMPARE(controller.setParameter("standard number_of_bodies 120"), 0);
+        const QString command
+            = "velora2 body switch standard b01 standard " + testkit::fetch<QString>("id");
+        QCOMPARE(
+            ask(controller, qPrintable(command)) == "velora2 ok", testkit::fetch<bool>("switched"));
+    }
     void injections()
     {
         Sim controller;
