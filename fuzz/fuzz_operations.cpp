@@ -97,6 +97,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         setProperty(module, controller, &parent, bytes);
     Fuzzing::driveModals(&bytes, &controller);
 
+    bool cleanedUp = false;
     for (int steps = 0; !bytes.atEnd() && steps < 200; ++steps) {
         const QList<MenuEntry *> entries = module.menuEntries();
         auto *dialog = qobject_cast<BodyAdministrationDlg *>(entries.value(1)->dialog);
@@ -108,11 +109,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             module.shutdown();
             break;
         case 2:
-            // Rarer than the others: building the dialogs again after it
-            // was most of the time of an input. Not on a 0, which zero
-            // bytes and an exhausted input choose.
-            if (bytes.pick(16) != 15)
+            // Rarer than the others, and once an input: building the
+            // dialogs again after it was most of the time of an input. Not
+            // on a 0, which zero bytes and an exhausted input choose.
+            if (bytes.pick(16) != 15 || cleanedUp)
                 break;
+            cleanedUp = true;
             QApplication::processEvents();
             module.cleanup();
             Fuzzing::require(
