@@ -64,24 +64,12 @@ QStringList BodyModel::types()
 
 QString BodyModel::bodyId(int number)
 {
-    // Every command about a body spells its id; arg() took most of that.
-    QString id = QString::number(number);
-    return id.size() < 2 ? QStringLiteral("b0") + id : QLatin1Char('b') + id;
+    return ParameterTable::numberedId(QLatin1Char('b'), number);
 }
 
 int BodyModel::bodyNumber(const QString &id)
 {
-    // Only the canonical spelling names a body: "b7" or "b007" do not.
-    if (id.size() < 3 || id.at(0) != QLatin1Char('b')
-        || (id.size() > 3 && id.at(1) == QLatin1Char('0')))
-        return -1;
-    for (int i = 1; i < id.size(); ++i) {
-        if (id.at(i) < QLatin1Char('0') || id.at(i) > QLatin1Char('9'))
-            return -1;
-    }
-    bool ok = false;
-    const int number = id.midRef(1).toInt(&ok);
-    return ok && number >= 1 ? number : -1;
+    return ParameterTable::idNumber(QLatin1Char('b'), id);
 }
 
 QString BodyModel::bodyText(const QString &type, int number)

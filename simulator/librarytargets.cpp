@@ -26,8 +26,7 @@ LibraryTargets::LibraryTargets(ParameterTable &table)
 
 QString LibraryTargets::targetId(int number)
 {
-    QString id = QString::number(number);
-    return id.size() < 2 ? QStringLiteral("t0") + id : QLatin1Char('t') + id;
+    return ParameterTable::numberedId(QLatin1Char('t'), number);
 }
 
 QStringList LibraryTargets::idsWith(const char *parameter) const
@@ -43,9 +42,8 @@ QStringList LibraryTargets::idsWith(const char *parameter) const
     QMap<int, QString> ids;
     for (const QString &path : paths) {
         const QString id = path.mid(prefix.size() - 1);
-        bool ok = false;
-        const int number = id.midRef(1).toInt(&ok);
-        if (ok && number >= 1 && number <= count && targetId(number) == id)
+        const int number = ParameterTable::idNumber(QLatin1Char('t'), id);
+        if (number >= 1 && number <= count)
             ids.insert(number, id);
     }
     return ids.values();

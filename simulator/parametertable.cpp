@@ -81,4 +81,24 @@ bool ParameterTable::isYesNo(const QString &text)
     return text == QLatin1String("yes") || text == QLatin1String("no");
 }
 
+QString ParameterTable::numberedId(QLatin1Char letter, int number)
+{
+    // Every command about a body or target spells its id: no arg() here.
+    const QString digits = QString::number(number);
+    return QString(letter) + (digits.size() < 2 ? QLatin1Char('0') + digits : digits);
+}
+
+int ParameterTable::idNumber(QLatin1Char letter, const QString &id)
+{
+    if (id.size() < 3 || id.at(0) != letter || (id.size() > 3 && id.at(1) == QLatin1Char('0')))
+        return -1;
+    for (int i = 1; i < id.size(); ++i) {
+        if (id.at(i) < QLatin1Char('0') || id.at(i) > QLatin1Char('9'))
+            return -1;
+    }
+    bool ok = false;
+    const int number = id.midRef(1).toInt(&ok);
+    return ok && number >= 1 ? number : -1;
+}
+
 } // namespace sim

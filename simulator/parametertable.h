@@ -40,6 +40,12 @@ public:
     static bool isNumber(const QString &text);
     static bool isYesNo(const QString &text);
 
+    // Bodies and targets are numbered "b07", "t12", "b120": a letter and at
+    // least two digits. Only that spelling names one ("b7" and "b007" do
+    // not); idNumber() is -1 for anything else.
+    static QString numberedId(QLatin1Char letter, int number);
+    static int idNumber(QLatin1Char letter, const QString &id);
+
 private:
     QMap<QString, QString> m_values;
 };
