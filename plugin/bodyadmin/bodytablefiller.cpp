@@ -19,6 +19,38 @@ const char *const StretchColumn = "trackingStretchColumn";
 
 } // namespace
 
+struct BodyTableFiller::Icons {
+    QIcon green { QStringLiteral(":/green.png") };
+    QIcon yellow { QStringLiteral(":/yellow.png") };
+    QIcon red { QStringLiteral(":/red.png") };
+    QIcon remove { QStringLiteral(":/118.png") };
+    QIcon reset { QStringLiteral(":/48.png") };
+    // Drawn once: every unusable row shows them.
+    QIcon redDisabled = disabledLook(red);
+    QIcon removeDisabled = disabledLook(remove);
+    QIcon resetDisabled = disabledLook(reset);
+
+    // Pixmaps may not outlive the application: they go with it, and the
+    // next application decodes them again.
+    static Icons *shared;
+    static void release()
+    {
+        delete shared;
+        shared = nullptr;
+    }
+};
+
+BodyTableFiller::Icons *BodyTableFiller::Icons::shared = nullptr;
+
+const BodyTableFiller::Icons &BodyTableFiller::icons()
+{
+    if (!Icons::shared) {
+        Icons::shared = new Icons;
+        qAddPostRoutine(Icons::release);
+    }
+    return *Icons::shared;
+}
+
 // What decides whether a body's inertial sensor can be reset; asked once for
 // each fill of a table.
 struct BodyTableFiller::InertialState {
@@ -28,14 +60,7 @@ struct BodyTableFiller::InertialState {
 
 BodyTableFiller::BodyTableFiller(const CommandChannel &channel)
     : m_channel(channel)
-    , m_green(QStringLiteral(":/green.png"))
-    , m_yellow(QStringLiteral(":/yellow.png"))
-    , m_red(QStringLiteral(":/red.png"))
-    , m_delete(QStringLiteral(":/118.png"))
-    , m_reset(QStringLiteral(":/48.png"))
-    , m_redDisabled(disabledLook(m_red))
-    , m_deleteDisabled(disabledLook(m_delete))
-    , m_resetDisabled(disabledLook(m_reset))
+    , m_icons(icons())
 {
 }
 
@@ -106,20 +131,20 @@ QTableWidgetItem *BodyTableFiller::cell(
         item->setText(BodyLoader::displayedCalibrationText(body));
         item->setFlags(Qt::ItemIsEnabled);
         if (!body.calibrated)
-            item->setIcon(m_redDisabled);
+            item->setIcon(m_icons.redDisabled);
         else if (body.hasInertialSensor() && !body.hybridCalibrated)
-            item->setIcon(m_yellow);
+            item->setIcon(m_icons.yellow);
         else
-            item->setIcon(m_green);
+            item->setIcon(m_icons.green);
         break;
     case FilterColumn:
         item->setText(body.filterText);
         break;
     case DeleteColumn:
-        usable(m_delete, m_deleteDisabled, body.calibrated || body.hasInertialSensor());
+        usable(m_icons.remove, m_icons.removeDisabled, body.calibrated || body.hasInertialSensor());
         break;
     case ResetColumn:
-        usable(m_reset, m_resetDisabled,
+        usable(m_icons.reset, m_icons.resetDisabled,
             (!body.targetLibraryName.isEmpty() && body.recalibrated)
                 || sensorResetUsable(body, inertial));
         break;

@@ -45,22 +45,17 @@ public:
     static QIcon disabledLook(const QIcon &icon);
 
 private:
+    struct Icons;
     struct InertialState;
+    // Decoded once a process, not for every tab: every dialog shows the same.
+    static const Icons &icons();
     QTableWidgetItem *cell(
         const BodyTypeEntry &entry, int index, int role, const InertialState &inertial) const;
     InertialState inertialState() const;
     static bool sensorResetUsable(const BodyRecord &body, const InertialState &inertial);
 
     const CommandChannel &m_channel;
-    QIcon m_green;
-    QIcon m_yellow;
-    QIcon m_red;
-    QIcon m_delete;
-    QIcon m_reset;
-    // Drawn once: every unusable row shows them.
-    QIcon m_redDisabled;
-    QIcon m_deleteDisabled;
-    QIcon m_resetDisabled;
+    const Icons &m_icons;
 };
 
 #endif // TRACKING_BODYTABLEFILLER_H
