@@ -173,11 +173,14 @@ void poke(QWidget *window, FuzzBytes &bytes)
     const QLatin1String help("pushButton_help");
     QList<QWidget *> widgets;
     for (QWidget *widget : window->findChildren<QWidget *>()) {
-        QWidget *parent = widget->parentWidget();
-        const bool inner = qobject_cast<QAbstractSpinBox *>(parent)
-            || qobject_cast<QComboBox *>(parent) || qobject_cast<QTableWidget *>(parent);
-        const bool seen = widget->objectName() == help && helpShown.contains(windowClass);
-        if (!inner && !seen && widget->isEnabled() && widget->isVisibleTo(window))
+        if (!widget->isEnabled() || !widget->isVisibleTo(window))
+            continue;
+        const QWidget *parent = widget->parentWidget();
+        const bool inner = qobject_cast<const QAbstractSpinBox *>(parent)
+            || qobject_cast<const QComboBox *>(parent)
+            || qobject_cast<const QTableWidget *>(parent);
+        const bool seen = helpShown.contains(windowClass) && widget->objectName() == help;
+        if (!inner && !seen)
             widgets << widget;
     }
     if (widgets.isEmpty())
