@@ -22,6 +22,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -29,6 +31,7 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
 
 namespace
@@ -130,6 +133,29 @@ constexpr double GuiGoalMs = 5.0;
 void settle()
 {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 10000);
+}
+
+// A modal that no step answers would hold the run until CTest gives up: a
+// question the flows never ask, or a dialog left open for half a minute,
+// is named and ends the run at once.
+void failOnStuckModals()
+{
+    auto *timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [] {
+        static QPointer<QWidget> last;
+        static int seconds = 0;
+        QWidget *modal = QApplication::activeModalWidget();
+        seconds = modal && modal == last ? seconds + 1 : 0;
+        last = modal;
+        const auto *question = qobject_cast<QMessageBox *>(modal);
+        if (!question && seconds < 30)
+            return;
+        std::fprintf(stderr, "bench_bodyadmin: nothing answers \"%s\"%s%s\n",
+            qPrintable(modal->windowTitle()), question ? ": " : "",
+            question ? qPrintable(question->text()) : "");
+        std::_Exit(3); // no clean-up: the modal loop is still running
+    });
+    timer->start(1000);
 }
 
 // Runs the step inside the next modal loop, once it shows its dialog.
@@ -353,6 +379,7 @@ int main(int argc, char **argv)
         }
     }
 
+    failOnStuckModals();
     QStringList order;
     const QMap<QString, Flow> flows = measure(large, repeats, &order);
     BenchTable table(QStringLiteral("Flows, %1 standard bodies, %2 Gripwands with heads, %3 "
