@@ -26,7 +26,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     for (const QString &error : qAsConst(errors)) {
         const int colon = error.indexOf(QLatin1String(": "), name.size());
         bool number = false;
-        const int line = error.midRef(name.size(), colon - name.size()).toInt(&number);
+        const int line
+            = colon < 0 ? 0 : error.midRef(name.size(), colon - name.size()).toInt(&number);
         Fuzzing::require(error.startsWith(name) && number && line >= 1 && line <= lines
                 && colon + 2 < error.size() && !error.at(colon + 2).isSpace(),
             error);
