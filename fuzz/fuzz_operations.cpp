@@ -77,6 +77,20 @@ void bodyOperation(BodyTypeAdministrationTab *tab, FuzzBytes &bytes)
     }
 }
 
+// As a host starts the module: every property set, then the menus asked for,
+// on the controller that offers every tab. The dialogs keep the tabs of the
+// version they were built on, and their subscription to messages, until the
+// host shuts down or cleans up; every input starts from here.
+void startAsHost(
+    TrackingSettingBodyAdminModule &module, sim::SimulatedController &controller, QWidget *parent)
+{
+    controller.loadScenario(sim::SimulatedController::defaultScenario());
+    module.setModuleProperty("CommandManager", QVariant::fromValue<IOManager *>(&controller));
+    module.setModuleProperty("ModuleParent", QVariant::fromValue(parent));
+    module.setModuleProperty("BackendVersions", QVariant::fromValue(&controller.backendVersions()));
+    module.menuEntries();
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -89,6 +103,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static sim::SimulatedController &controller = *new sim::SimulatedController;
     static QWidget &parent = *new QWidget;
     static TrackingSettingBodyAdminModule &module = *new TrackingSettingBodyAdminModule;
+    static const bool started = (startAsHost(module, controller, &parent), true);
+    Q_UNUSED(started)
     controller.clearLog();
     controller.setManualClock(true);
     controller.clearInjections();
@@ -97,23 +113,34 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         setProperty(module, controller, &parent, bytes);
     Fuzzing::driveModals(&bytes, &controller);
 
+    bool ended = false;
     bool cleanedUp = false;
     bool fixedAnglesShown = false;
+    int previous = -1;
     for (int steps = 0; !bytes.atEnd() && steps < 200; ++steps) {
         const QList<MenuEntry *> entries = module.menuEntries();
         auto *dialog = qobject_cast<BodyAdministrationDlg *>(entries.value(1)->dialog);
-        switch (bytes.pick(13)) {
+        const int step = bytes.pick(13);
+        const bool again = step == previous;
+        previous = step;
+        switch (step) {
         case 0:
             setProperty(module, controller, &parent, bytes);
             break;
         case 1:
-            module.shutdown();
-            break;
         case 2:
-            // Rarer than the others, and once an input: building the
-            // dialogs again after it was most of the time of an input. Not
-            // on a 0, which zero bytes and an exhausted input choose.
-            if (bytes.pick(16) != 15 || cleanedUp)
+            // The host ending: rarer than the others, and once an input, as
+            // the module is started again after it. One byte value of 256,
+            // and none of those libFuzzer's mutations favour (0, 0xff,
+            // ASCII); its comparison tracing finds it.
+            if (bytes.pick(256) != 0xa5)
+                break;
+            ended = true;
+            if (step == 1) {
+                module.shutdown();
+                break;
+            }
+            if (cleanedUp)
                 break;
             cleanedUp = true;
             QApplication::processEvents();
@@ -141,7 +168,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             Fuzzing::poke(dialog, bytes);
             break;
         case 10:
-            if (dialog->currentTab())
+            // Right after a refresh nothing has changed: another would read
+            // and show the same (three in four refreshes of the seeds).
+            if (!again && dialog->currentTab())
                 dialog->currentTab()->update_tab();
             break;
         case 11:
@@ -149,10 +178,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
                 QLatin1String(Refused[bytes.pick(10)]), 1, bytes.pick(2) ? 1 : -1);
             break;
         default:
-            // Once an input too: a fresh dialog, as the tracking dialog makes
-            // one, was more than a quarter of the time of an input, and what
+            // Once an input, and on one choice in four: a fresh dialog, as the
+            // tracking dialog makes one, was a seventh of the time, and what
             // it reads depends on the controller, not on the times before.
-            if (fixedAnglesShown)
+            if (bytes.pick(4) != 3 || fixedAnglesShown)
                 break;
             fixedAnglesShown = true;
             FixedAngleDlg(&controller, &parent, &controller.backendVersions()).update_and_exec();
@@ -160,5 +189,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     }
     Fuzzing::driveModals(nullptr);
     QApplication::processEvents();
+    if (ended) {
+        module.cleanup();
+        startAsHost(module, controller, &parent);
+    }
     return 0;
 }

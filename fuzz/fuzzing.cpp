@@ -6,6 +6,7 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QFont>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -23,6 +24,9 @@ FuzzBytes *modalBytes = nullptr;
 sim::SimulatedController *modalClock = nullptr;
 QPointer<QWidget> lastModal;
 int sameModalTicks = 0;
+// What an input may do in modal dialogs, all of them together.
+constexpr int ModalActions = 48;
+int modalActionsLeft = 0;
 // Qt keeps references to argc and argv for the application's whole life.
 int qtArgc = 1;
 char *qtArgv[] = { const_cast<char *>("fuzz"), nullptr };
@@ -73,7 +77,10 @@ void actOnModal()
     lastModal = modal;
     FuzzBytes none { nullptr, 0 };
     FuzzBytes &bytes = modalBytes ? *modalBytes : none;
-    const int action = sameModalTicks < 40 ? bytes.pick(4) : 0;
+    // An input that clicks on and on, say a dialog open and closed again,
+    // is a slow input and no deeper: from then on every modal is answered.
+    const bool acting = sameModalTicks < 40 && modalActionsLeft-- > 0;
+    const int action = acting ? bytes.pick(4) : 0;
     if (action == 3 && modalClock) {
         // Nothing more on this modal: the timers may have closed it.
         Fuzzing::passTime(modal, *modalClock, bytes);
@@ -114,6 +121,11 @@ class Unpainted : public QObject
         if (event->type() == QEvent::Polish && object->isWidgetType()
             && static_cast<QWidget *>(object)->isWindow())
             static_cast<QWidget *>(object)->setAttribute(Qt::WA_DontShowOnScreen);
+        // Nor told, widget by widget, that a modal dialog blocks their
+        // window: every kept window heard it at every modal's opening.
+        if ((event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked)
+            && object->isWidgetType() && !static_cast<QWidget *>(object)->isWindow())
+            return true;
         return event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint;
     }
 };
@@ -136,6 +148,11 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
     static QTemporaryDir home; // the preferences file goes there
     qputenv("HOME", QFile::encodeName(home.path()));
     new QApplication(qtArgc, qtArgv);
+    // Measuring text was the most of laying out tables and dialogs, and
+    // nearly all of it shaping, which Latin text does not need.
+    QFont font = QApplication::font();
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    QApplication::setFont(font);
     qApp->installEventFilter(new Unpainted);
     // The offscreen platform says so for every dialog shown.
     static const QtMessageHandler qtHandler = qInstallMessageHandler(nullptr);
@@ -210,6 +227,7 @@ void driveModals(FuzzBytes *bytes, sim::SimulatedController *clock)
 {
     modalBytes = bytes;
     modalClock = clock;
+    modalActionsLeft = ModalActions;
 }
 
 void passTime(QWidget *window, sim::SimulatedController &clock, FuzzBytes &bytes)

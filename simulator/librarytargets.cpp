@@ -101,6 +101,8 @@ void LibraryTargets::clearTracked()
 
 void LibraryTargets::checkCustomCalibration(const BodyModel &bodies)
 {
+    if (m_table.revision() == m_checkedRevision)
+        return;
     // Per body type, the first body calibrated without the library for each
     // marker count: one pass over the bodies rather than one per target.
     QHash<QString, QHash<QString, QString>> firstByMarkers;
@@ -129,6 +131,7 @@ void LibraryTargets::checkCustomCalibration(const BodyModel &bodies)
                 ? firstByMarkers[type].value(QString::number(markers), QStringLiteral("none"))
                 : QStringLiteral("none"));
     }
+    m_checkedRevision = m_table.revision();
 }
 
 } // namespace sim

@@ -40,6 +40,9 @@ public:
 
 private:
     ParameterTable &m_table;
+    // The parameters as the last check left them: a host checks on every
+    // refresh of its target table, mostly with nothing changed in between.
+    quint64 m_checkedRevision = 0;
 };
 
 } // namespace sim

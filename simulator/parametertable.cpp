@@ -6,8 +6,10 @@ namespace sim
 void ParameterTable::update(const QString &path, const QString &value)
 {
     auto it = m_values.find(path);
-    if (it != m_values.end())
+    if (it != m_values.end()) {
         it.value() = value;
+        ++m_revision;
+    }
 }
 
 QStringList ParameterTable::pathsStartingWith(const QString &prefix) const

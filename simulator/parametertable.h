@@ -16,11 +16,30 @@ class ParameterTable
 public:
     bool contains(const QString &path) const { return m_values.contains(path); }
     QString value(const QString &path) const { return m_values.value(path); }
-    void set(const QString &path, const QString &value) { m_values.insert(path, value); }
-    void remove(const QString &path) { m_values.remove(path); }
-    void clear() { m_values.clear(); }
+    void set(const QString &path, const QString &value)
+    {
+        m_values.insert(path, value);
+        ++m_revision;
+    }
+    void remove(const QString &path)
+    {
+        m_values.remove(path);
+        ++m_revision;
+    }
+    void clear()
+    {
+        m_values.clear();
+        ++m_revision;
+    }
     const QMap<QString, QString> &values() const { return m_values; }
-    void replace(const QMap<QString, QString> &values) { m_values = values; }
+    void replace(const QMap<QString, QString> &values)
+    {
+        m_values = values;
+        ++m_revision;
+    }
+    // Changes with every write: what was derived from the parameters at one
+    // revision holds until the next.
+    quint64 revision() const { return m_revision; }
 
     // Sets value only where the path exists; a controller does not grow
     // parameters it never had.
@@ -48,6 +67,7 @@ public:
 
 private:
     QMap<QString, QString> m_values;
+    quint64 m_revision = 1;
 };
 
 } // namespace sim
