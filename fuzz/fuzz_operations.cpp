@@ -81,7 +81,7 @@ void bodyOperation(BodyTypeAdministrationTab *tab, FuzzBytes &bytes)
 // on the controller that offers every tab. The dialogs keep the tabs of the
 // version they were built on, and their subscription to messages, until the
 // host shuts down or cleans up; every input starts from here.
-void startAsHost(
+TrackingSettingBodyAdminModule &startAsHost(
     TrackingSettingBodyAdminModule &module, sim::SimulatedController &controller, QWidget *parent)
 {
     controller.loadScenario(sim::SimulatedController::defaultScenario());
@@ -89,6 +89,7 @@ void startAsHost(
     module.setModuleProperty("ModuleParent", QVariant::fromValue(parent));
     module.setModuleProperty("BackendVersions", QVariant::fromValue(&controller.backendVersions()));
     module.menuEntries();
+    return module;
 }
 
 } // namespace
@@ -102,9 +103,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // input that cleans up checks that no window is left. None is deleted.
     static sim::SimulatedController &controller = *new sim::SimulatedController;
     static QWidget &parent = *new QWidget;
-    static TrackingSettingBodyAdminModule &module = *new TrackingSettingBodyAdminModule;
-    static const bool started = (startAsHost(module, controller, &parent), true);
-    Q_UNUSED(started)
+    static TrackingSettingBodyAdminModule &module
+        = startAsHost(*new TrackingSettingBodyAdminModule, controller, &parent);
     controller.clearLog();
     controller.setManualClock(true);
     controller.clearInjections();

@@ -22,7 +22,6 @@
 #include <bodytypeadministrationtab.h>
 #include <filterdialog.h>
 #include <simulatedcontroller.h>
-#include <targetlibrary.h>
 #include <trackingdlg.h>
 #include <versiongate.h>
 

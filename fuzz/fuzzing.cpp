@@ -79,8 +79,7 @@ void actOnModal()
     FuzzBytes &bytes = modalBytes ? *modalBytes : none;
     // An input that clicks on and on, say a dialog open and closed again,
     // is a slow input and no deeper: from then on every modal is answered.
-    const bool acting = sameModalTicks < 40 && modalActionsLeft-- > 0;
-    const int action = acting ? bytes.pick(4) : 0;
+    const int action = sameModalTicks < 40 && modalActionsLeft-- > 0 ? bytes.pick(4) : 0;
     if (action == 3 && modalClock) {
         // Nothing more on this modal: the timers may have closed it.
         Fuzzing::passTime(modal, *modalClock, bytes);

@@ -55,12 +55,9 @@ void ModalDriver::poll()
         m_timer.stop();
         return;
     }
-    Seen seen;
-    seen.className = QString::fromLatin1(modal->metaObject()->className());
-    seen.title = modal->windowTitle();
-    if (auto *box = qobject_cast<QMessageBox *>(modal))
-        seen.text = box->text();
-    m_seen.append(seen);
+    const auto *box = qobject_cast<const QMessageBox *>(modal);
+    m_seen.append({ QString::fromLatin1(modal->metaObject()->className()), modal->windowTitle(),
+        box ? box->text() : QString() });
     // The same dialog may come back (a reopened dialog): it counts as new
     // once it has been hidden.
     m_lastHandled = modal;
