@@ -129,10 +129,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             break;
         case 1:
         case 2:
-            // The host ending: rarer than the others, and once an input, as
-            // the module is started again after it. One byte value of 256,
-            // and none of those libFuzzer's mutations favour (0, 0xff,
-            // ASCII); its comparison tracing finds it.
+            // The host ending (a cleanup at most once an input): rarer than
+            // the others, as the module is started again after it. One byte
+            // value of 256, and none of those libFuzzer's mutations favour
+            // (0, 0xff, ASCII); its comparison tracing finds it.
             if (bytes.pick(256) != 0xa5)
                 break;
             ended = true;
