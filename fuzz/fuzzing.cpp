@@ -43,8 +43,10 @@ void pokeTable(QTableWidget *table, FuzzBytes &bytes)
         return;
     const int row = bytes.pick(table->rowCount());
     const int column = bytes.pick(table->columnCount());
-    QTableWidgetItem *item = table->item(row, column);
+    // Moving the current cell commits an open name editor, and the tab may
+    // fill its table again: only then is the item taken.
     table->setCurrentCell(row, column);
+    QTableWidgetItem *item = table->item(row, column);
     switch (bytes.pick(5)) {
     case 0:
         emit table->cellClicked(row, column);
