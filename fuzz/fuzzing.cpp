@@ -43,8 +43,8 @@ void pokeTable(QTableWidget *table, FuzzBytes &bytes)
         return;
     const int row = bytes.pick(table->rowCount());
     const int column = bytes.pick(table->columnCount());
-    // Moving the current cell commits an open name editor, and the tab may
-    // fill its table again: only then is the item taken.
+    // Moving the current cell may fill the table again (an open name editor
+    // is committed, a queued reopen runs): only then is the item taken.
     table->setCurrentCell(row, column);
     QTableWidgetItem *item = table->item(row, column);
     switch (bytes.pick(5)) {
